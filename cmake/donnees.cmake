@@ -1,0 +1,6 @@
+# Copies each default data file into DEST unless a file of that name is there.
+foreach(nom Noms Scores)
+  if(NOT EXISTS "${DEST}/${nom}")
+    file(COPY "${SOURCE}/${nom}" DESTINATION "${DEST}")
+  endif()
+endforeach()

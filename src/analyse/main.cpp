@@ -1,0 +1,2 @@
+// Command-line analysis of a hand or a deal.
+int main() { return 0; }

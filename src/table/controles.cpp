@@ -1,0 +1,3 @@
+#include "table/controles.h"
+
+Contrôles::Contrôles() {}
