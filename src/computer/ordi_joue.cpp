@@ -4,3 +4,4 @@
 void TroisNiveaux::OrdiJoue() {}
 void TroisNiveaux::OrdiJoueLittéral() {}
 void TroisNiveaux::ComptePaires(uint8_t) {}
+void TroisNiveaux::ChercheSiège(uint8_t) {}

@@ -117,6 +117,9 @@ public:
   void OrdiJoue();          // the sweep as the game runs it
   void OrdiJoueLittéral();  // the same, row by row: the reference for tests
   void ComptePaires(uint8_t siège); // pair count of Mains(siège, ·)
+  // One seat's whole sweep in one go: no turn of the event loop, no bar, no
+  // STOP test; then its pair count. For GO after a change to DEBUTANT.
+  void ChercheSiège(uint8_t siège);
 
   // ---- Showdown (showdown/) -------------------------------------------------
   void AfficheRésultat();

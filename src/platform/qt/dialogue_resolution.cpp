@@ -1,0 +1,4 @@
+#include "platform/qt/dialogue_resolution.h"
+
+// Placeholder.
+bool DemandeAccordRésolution() { return true; }

@@ -1,0 +1,4 @@
+#pragma once
+// The dialog that asks leave to switch the display to 1024 x 768.
+// Returns true for "Je suis d'accord".
+bool DemandeAccordRésolution();

@@ -1,0 +1,4 @@
+#include "platform/qt/reseau.h"
+
+// Placeholder.
+bool MachineEnLigne() { return true; }

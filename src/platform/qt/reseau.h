@@ -1,0 +1,3 @@
+#pragma once
+// Whether the machine is on line.
+bool MachineEnLigne();
