@@ -1,7 +1,36 @@
-// Command-line analysis of a hand or a deal.
+// Command-line analysis of a hand or a deal, with the game's own engine.
+#include <iostream>
 #include <string>
 #include <vector>
 
+#include "analyse/commande_main.h"
+
 int CommandeDonne(const std::vector<std::string> &arguments);
 
-int main() { return 0; }
+namespace {
+
+const char *const Aide = "Usage : troisniveaux-analyse main [--json] C1 ... C13\n"
+                         "        troisniveaux-analyse donne ...\n"
+                         "        troisniveaux-analyse <commande> --help\n";
+
+} // namespace
+
+int main(int argc, char **argv) {
+  const std::vector<std::string> arguments(argv + 1, argv + argc);
+  if (arguments.empty()) {
+    std::cerr << Aide;
+    return 2;
+  }
+  const std::string &commande = arguments.front();
+  const std::vector<std::string> suite(arguments.begin() + 1, arguments.end());
+  if (commande == "main")
+    return CommandeMain(suite, std::cout, std::cerr);
+  if (commande == "donne")
+    return CommandeDonne(suite);
+  if (commande == "--help" || commande == "-h") {
+    std::cout << Aide;
+    return 0;
+  }
+  std::cerr << "Commande inconnue : « " << commande << " ».\n" << Aide;
+  return 2;
+}

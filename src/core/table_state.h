@@ -30,6 +30,8 @@ struct ModeAffichage {
   int16_t largeur = 0, hauteur = 0, couleurs = 0, fréquence = 0;
 };
 
+struct IndexBalayage; // computer/balayage_rapide.h
+
 class TroisNiveaux {
 public:
   explicit TroisNiveaux(Plateforme &plateforme);
@@ -94,6 +96,9 @@ public:
   std::string ErreurDémarrage;
   // True while OrdiJoue is on the stack, so that no sweep starts inside another.
   bool BalayageEnCours = false;
+  // Where each arrangement's levels fall among the seat's 5- and 3-card sets,
+  // derived from Rangements at the first sweep (computer/).
+  std::shared_ptr<const IndexBalayage> IndexDuBalayage;
 
   // ---- Session (core/) ----------------------------------------------------
   void Form_Load();

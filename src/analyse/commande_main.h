@@ -1,0 +1,13 @@
+#pragma once
+// `troisniveaux-analyse main`: the layout the computer plays for 13 cards.
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+// The arguments after "main". Returns the exit status: 0, or 2 for bad
+// arguments (with a message on `erreurs` and nothing on `sortie`).
+int CommandeMain(const std::vector<std::string> &arguments, std::ostream &sortie, std::ostream &erreurs);
+
+// How to call it, in French.
+extern const char *const AideMain;

@@ -1,0 +1,80 @@
+// The command `troisniveaux-analyse main` and the card text it reads.
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "analyse/commande_main.h"
+#include "analyse/session_analyse.h"
+#include "analyse/texte.h"
+
+namespace {
+
+TEST(Texte, CartesÉcritesEtLues) {
+  for (int c = 0; c < 52; ++c)
+    EXPECT_EQ(texte::LitCarte(texte::Carte(c)), c) << texte::Carte(c);
+  EXPECT_EQ(texte::Carte(34), "10♥");
+  const std::pair<const char *, int> lues[] = {
+      {"10C", 34}, {"vp", 48}, {"AT", 12}, {"DK", 23}, {"r♡", 37}, {"10", 10}, {"A♠\xEF\xB8\x8F", 51}};
+  for (const auto &[texte, code] : lues)
+    EXPECT_EQ(texte::LitCarte(texte), code) << texte;
+  for (const char *faux : {"", "52", "1♥", "X", "A", "♠", "AX", "11C", "-1", "A♠♠"})
+    EXPECT_FALSE(texte::LitCarte(faux).has_value()) << faux;
+}
+
+struct Appel {
+  int statut;
+  std::string sortie, erreurs;
+};
+
+Appel Lance(const std::vector<std::string> &arguments) {
+  std::ostringstream sortie, erreurs;
+  const int statut = CommandeMain(arguments, sortie, erreurs);
+  return {statut, sortie.str(), erreurs.str()};
+}
+
+TEST(CommandeMain, JsonSurUneLigneEtNiveauxEnClair) {
+  const Appel a = Lance({"--json", "49", "29", "0", "35", "43", "41", "25", "51", "14", "15", "9", "45", "20"});
+  EXPECT_EQ(a.statut, 0);
+  EXPECT_EQ(a.erreurs, "");
+  EXPECT_EQ(a.sortie, "{\"cartes\": [49, 29, 0, 35, 43, 41, 25, 51, 14, 15, 9, 45, 20], \"MeilleurRangement\": 21179, "
+                      "\"MeilleureValeur\": 1005.17615, \"disposition\": [49, 43, 41, 51, 45, 29, 0, 25, 14, 15, 35, "
+                      "9, 20], \"ToutFlush\": false, \"ToutQuinte\": false, \"SixPaires\": false, "
+                      "\"MégaQuinte\": false}\n");
+  // The third worked hand, written as a player reads it.
+  const Appel b = Lance({"A♠", "4P", "R♠", "A♣", "4♣", "3♣", "3♦", "6♦", "6♣", "VP", "5♣", "5♠", "10♦"});
+  EXPECT_NE(b.sortie.find("NIVEAU 2 : A♠ 4♠ R♠ V♠ 5♠  FLUSH, 512.7954666666666\n"
+                          "NIVEAU 3 : 3♦ 6♦ 10♦  TOUT FLUSH\n"),
+            std::string::npos)
+      << b.sortie;
+  EXPECT_NE(b.sortie.find("Rangement 58640 sur 72072, valeur 6900\nMain spéciale : TOUT FLUSH\n"), std::string::npos)
+      << b.sortie;
+}
+
+TEST(CommandeMain, MauvaisArguments) {
+  const std::vector<std::vector<std::string>> cas = {
+      {"0", "1", "2"},
+      {"0", "1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12", "13"},
+      {"0", "1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "2♣"}, // the same card twice
+      {"0", "1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "Z♣"},
+      {"--json", "0", "1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "52"},
+  };
+  for (const auto &arguments : cas) {
+    const Appel a = Lance(arguments);
+    EXPECT_EQ(a.statut, 2);
+    EXPECT_EQ(a.sortie, "");
+    EXPECT_NE(a.erreurs, "");
+  }
+}
+
+TEST(CommandeMain, SessionDansUnDossierTemporaireEffacé) {
+  std::filesystem::path dossier;
+  {
+    SessionAnalyse session;
+    dossier = session.dossier();
+    EXPECT_TRUE(std::filesystem::is_directory(dossier));
+    EXPECT_EQ(session.table().Rangements.size(), 72073u);
+  }
+  EXPECT_FALSE(dossier.empty() || std::filesystem::exists(dossier));
+}
+
+} // namespace

@@ -1,0 +1,168 @@
+// The computer's sweep: rows kept, marks, ties, pair counts, STOP, the bar.
+#include <gtest/gtest.h>
+
+#include "session_essai.h"
+
+namespace {
+
+std::vector<int> Disposition(const TroisNiveaux &t, int siège) {
+  std::vector<int> d;
+  for (int k = 0; k < 13; ++k)
+    d.push_back(t.Mains[siège][t.Rangements[t.MeilleurRangement[siège]][k]]);
+  return d;
+}
+
+TEST(Balayage, MainsTravaillées) {
+  struct Cas {
+    std::vector<int> main, disposition;
+    int32_t rangée;
+    float valeur;
+  };
+  const Cas cas[] = {
+      {{25, 18, 9, 17, 46, 11, 27, 31, 3, 40, 24, 0, 30},
+       {17, 11, 3, 24, 30, 18, 27, 31, 40, 0, 25, 9, 46},
+       62770,
+       428.64666748046875f},
+      {{49, 29, 0, 35, 43, 41, 25, 51, 14, 15, 9, 45, 20},
+       {49, 43, 41, 51, 45, 29, 0, 25, 14, 15, 35, 9, 20},
+       21179,
+       1005.1761474609375f},
+      // Two all-flush rows, 2248 and its mirror 58640: the later one stays.
+      {{51, 41, 50, 12, 2, 1, 14, 17, 4, 48, 3, 42, 21},
+       {12, 2, 1, 4, 3, 51, 41, 50, 48, 42, 14, 17, 21},
+       58640,
+       6900.0f},
+  };
+  for (const auto &c : cas) {
+    SessionEssai s(0); // every seat of an EXPERT table holds the hand
+    for (int j = 0; j < 3; ++j)
+      s.Main(j, c.main);
+    s.t.OrdiJoue();
+    for (int j = 0; j < 3; ++j) {
+      EXPECT_EQ(s.t.MeilleurRangement[j], c.rangée);
+      EXPECT_EQ(Disposition(s.t, j), c.disposition);
+    }
+    EXPECT_EQ(s.t.MeilleureValeur, c.valeur);
+    EXPECT_EQ(s.t.ToutFlush[2], c.valeur == 6900.0f);
+  }
+}
+
+TEST(Balayage, MarquesEtRangéesQuiNePassentPas) {
+  // 13 cards of one suit: every row is an all-flush, the last one also an
+  // all-straight (10..A and 5..9 over 2 3 4), which leaves 6600.
+  SessionEssai s;
+  s.Main(0, {13, 14, 15, 16, 17, 18, 19, 20, 21, 22, 23, 24, 25});
+  s.t.ChercheSiège(0);
+  EXPECT_EQ(s.t.MeilleurRangement[0], 72072);
+  EXPECT_EQ(s.t.MeilleureValeur, 6600.0f);
+  EXPECT_TRUE(s.t.ToutFlush[0] && s.t.ToutQuinte[0] && s.t.MégaQuinte[0]);
+  // 13 equal codes: levels 1 and 2 are worth 500 in every row, none
+  // passes, and the row kept before stays.
+  s.Main(2, std::vector<int>(13, 0));
+  s.t.MeilleurRangement[2] = 4321;
+  s.t.ChercheSiège(2);
+  EXPECT_EQ(s.t.MeilleurRangement[2], 4321);
+  EXPECT_EQ(s.t.MeilleureValeur, 0.0f);
+}
+
+TEST(Balayage, DesRangéesÉgalesLaPremièreReste) {
+  // Two 2s on places 11 and 12: the kept row and its twin, which swaps them
+  // between levels, have the same sum; the earlier of the two stays.
+  SessionEssai s;
+  s.Main(0, {12, 11, 10, 9, 7, 25, 24, 23, 21, 20, 35, 0, 39});
+  s.t.ChercheSiège(0);
+  auto niveau = [](const std::array<uint8_t, 13> &r, int place) {
+    return static_cast<int>(std::find(r.begin(), r.end(), place) - r.begin() + 5) / 5;
+  };
+  const auto gardée = s.t.Rangements[s.t.MeilleurRangement[0]];
+  ASSERT_NE(niveau(gardée, 11), niveau(gardée, 12));
+  int jumelle = 0;
+  for (int i = 1; i <= NombreRangements; ++i) {
+    bool pareil = true;
+    for (int p = 0; p < 13; ++p)
+      pareil = pareil && niveau(s.t.Rangements[i], p) == niveau(gardée, p == 11 ? 12 : p == 12 ? 11 : p);
+    jumelle = pareil ? i : jumelle;
+  }
+  EXPECT_GT(jumelle, s.t.MeilleurRangement[0]);
+}
+
+TEST(ComptePaires, SixPairesEtMégaQuinte) {
+  struct Cas {
+    std::vector<int> main;
+    bool six, méga;
+  };
+  const Cas cas[] = {
+      {{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}, false, true},
+      {{0, 13, 26, 39, 1, 14, 2, 15, 3, 16, 4, 17, 5}, true, false}, // four of a kind, four pairs
+      // Five pairs and three of a rank on places 10..12 (cards 11 and 12
+      // pair first), then on places 0..2: one pair each time.
+      {{0, 13, 1, 14, 2, 15, 3, 16, 4, 17, 5, 18, 31}, true, false},
+      {{5, 18, 31, 0, 13, 1, 14, 2, 15, 3, 16, 4, 17}, true, false},
+      {{0, 13, 1, 14, 2, 15, 3, 16, 4, 17, 5, 6, 7}, false, false},
+  };
+  for (const auto &c : cas) {
+    SessionEssai s(1, false);
+    s.Main(1, c.main);
+    s.t.ComptePaires(1);
+    EXPECT_EQ(s.t.SixPaires[1], c.six);
+    EXPECT_EQ(s.t.MégaQuinte[1], c.méga);
+  }
+}
+
+// A DEBUTANT table of 13 ranks in every seat, interrupted at turn `tour`.
+void Interromps(SessionEssai &s, int tour, bool quitte, bool littéral) {
+  for (int j = 0; j < 4; ++j)
+    s.Main(j, {0, 14, 28, 42, 4, 18, 32, 46, 8, 22, 36, 50, 12});
+  std::fill(std::begin(s.t.CartesTirées), std::end(s.t.CartesTirées), 7); // Init puts 54 back
+  s.plateforme.script = [&s, tour, quitte](int n) {
+    EXPECT_TRUE(s.t.BalayageEnCours);
+    if (n == tour)
+      (quitte ? s.t.SessionTerminée : s.t.Fenêtre.Arrêt.Enabled) = quitte;
+  };
+  littéral ? s.t.OrdiJoueLittéral() : s.t.OrdiJoue();
+  EXPECT_EQ(s.plateforme.tours, tour);
+  EXPECT_FALSE(s.t.BalayageEnCours);
+}
+
+TEST(Balayage, StopPendantLeTourDeLaRangée57) {
+  for (bool littéral : {false, true}) {
+    SessionEssai s;
+    Interromps(s, 2, false, littéral); // turn 2 is at row 57
+    // Row 57 was finished, Init ran before row 58, no pair count.
+    for (int j = 0; j < 5; ++j)
+      EXPECT_EQ(s.t.Niveau2[j], s.t.Mains[0][s.t.Rangements[57][5 + j]]);
+    EXPECT_EQ(s.t.CartesTirées[0], PasDeCarte) << "Init n'a pas tourné";
+    EXPECT_FALSE(s.t.MégaQuinte[0]);
+  }
+}
+
+TEST(Balayage, FinDeSessionPendantUnTour) {
+  for (bool littéral : {false, true}) {
+    SessionEssai s;
+    Interromps(s, 1288, true, littéral); // seat 1's first turn
+    EXPECT_TRUE(s.t.MégaQuinte[0]);
+    EXPECT_FALSE(s.t.MégaQuinte[1]);
+    EXPECT_EQ(s.t.CartesTirées[0], 7) << "pas d'Init après la fin de la session";
+  }
+}
+
+TEST(Balayage, BarreDeProgrèsDansLesDeuxModes) {
+  for (uint8_t mode : {0, 1}) {
+    SessionEssai s(mode);
+    s.t.OrdiJoue();
+    EXPECT_EQ(s.t.PasProgrès, mode ? 1109 : 1081);
+    const auto &r = s.plateforme.relevé;
+    ASSERT_EQ(r.size(), 1287u * (mode + 3));
+    for (int j = 0; j < mode + 3; ++j) {
+      const PlateformeEspionne::Tour &premier = r[1287 * j], &dernier = r[1287 * j + 1286];
+      EXPECT_TRUE(premier.siège == j && premier.groupe == 0 && premier.couleur == CouleurSiège[j]);
+      EXPECT_TRUE(dernier.siège == j && dernier.groupe == 1286);
+    }
+    // At the last turn every step is made but EXPERT's last: EXPERT then
+    // ends at 0 exactly, DEBUTANT at -15, set right at the end.
+    EXPECT_EQ(r.back().gauche, -15);
+    EXPECT_EQ(s.t.Fenêtre.TempsShape.Left, 0);
+  }
+}
+
+} // namespace

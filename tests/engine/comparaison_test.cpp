@@ -1,0 +1,145 @@
+// The game's sweep against the row-by-row one: every field the sweep leaves
+// and every turn it gives must be the same, to the bit.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstring>
+#include <random>
+
+#include "session_essai.h"
+
+namespace {
+
+#if defined(__SANITIZE_ADDRESS__)
+constexpr int Tables = 40; // the row-by-row sweep is ten times slower there
+#else
+constexpr int Tables = 400;
+#endif
+
+template <typename T> void Ajoute(std::string &photo, const T &champ) {
+  photo.append(reinterpret_cast<const char *>(&champ), sizeof champ);
+}
+
+// Everything the sweep writes, as raw bytes.
+std::string Photo(const TroisNiveaux &t) {
+  std::string p;
+  for (const auto &champ : {t.Valeur1, t.Valeur2, t.Valeur3, t.Somme})
+    Ajoute(p, champ);
+  Ajoute(p, t.MeilleurRangement), Ajoute(p, t.MeilleureValeur), Ajoute(p, t.ToutQuinte), Ajoute(p, t.ToutFlush);
+  Ajoute(p, t.SixPaires), Ajoute(p, t.MégaQuinte), Ajoute(p, t.Niveau1), Ajoute(p, t.Niveau2), Ajoute(p, t.Niveau3);
+  Ajoute(p, t.NombreParRang), Ajoute(p, t.CartesTirées), Ajoute(p, t.RangHaut), Ajoute(p, t.RangBas);
+  for (bool b : {t.EstPaire, t.EstDeuxPaires, t.EstBrelan, t.EstFull, t.EstCarré, t.EstFlush, t.EstQuinte, t.EstQF,
+                 t.ToutQuinteVu, t.ToutFlushVu, t.Fenêtre.Arrêt.Enabled, t.BalayageEnCours})
+    Ajoute(p, b);
+  Ajoute(p, t.Joueur), Ajoute(p, t.PasProgrès), Ajoute(p, t.Fenêtre.TempsShape.Left);
+  Ajoute(p, t.Fenêtre.TempsShape.BackColor);
+  return p;
+}
+
+// Hands of every kind the sweep has a path or a trap for.
+std::vector<int> UneMain(int genre, std::mt19937 &g) {
+  auto entre = [&g](int a, int b) { return std::uniform_int_distribution<int>(a, b)(g); };
+  std::vector<int> p;
+  const int premier = entre(0, 12), a = entre(0, 3), b = (a + entre(1, 3)) % 4;
+  switch (genre % 8) {
+  case 0: // any 13 cards
+    for (int c = 0; c < 52; ++c)
+      p.push_back(c);
+    break;
+  case 1: // two suits: flushes everywhere
+  case 2: // seven or eight ranks in a row in two suits: straights and flushes
+    for (int r = 0; r < (genre % 8 == 1 ? 13 : 8); ++r)
+      p.insert(p.end(), {13 * a + (premier + r) % 13, 13 * b + (premier + r) % 13});
+    break;
+  case 3: // 13 ranks, suits at random: all-straights
+    for (int r = 0; r < 13; ++r)
+      p.push_back(13 * entre(0, 3) + r);
+    break;
+  case 4: // a flush of 5, one of 5 and three of a third suit
+    for (int r : {0, 3, 5, 8, 11})
+      p.insert(p.end(), {13 * a + (premier + r) % 13, 13 * b + (premier + r + 1) % 13});
+    for (int r : {2, 6, 9})
+      p.push_back(13 * ((b + 1) % 4 == a ? (b + 2) % 4 : (b + 1) % 4) + (premier + r) % 13);
+    break;
+  case 5: // few ranks: pairs, three and four of a kind
+    for (int r = 0, rangs = entre(4, 6); r < rangs; ++r)
+      for (int c = 0; c < 4; ++c)
+        p.push_back(13 * c + (premier + r) % 13);
+    break;
+  case 6: // thirteen equal codes, as a replay without its file gives
+    return std::vector<int>(13, entre(0, 255));
+  default: // a damaged file: codes past 51, repeats
+    for (int k = 0; k < 13; ++k)
+      p.push_back(entre(0, 255));
+  }
+  std::shuffle(p.begin(), p.end(), g);
+  p.resize(13);
+  return p;
+}
+
+// The same table swept both ways from the same state, with a STOP or the
+// end of the session at turn `tour` if any.
+void Compare(uint8_t mode, const std::vector<int> (&mains)[4], int tour = 0, bool quitte = false) {
+  SessionEssai rapide(mode), littéral(mode);
+  for (SessionEssai *s : {&rapide, &littéral}) {
+    for (int j = 0; j < 4; ++j)
+      s->Main(j, mains[j]);
+    s->plateforme.script = [s, tour, quitte](int n) {
+      if (n == tour)
+        (quitte ? s->t.SessionTerminée : s->t.Fenêtre.Arrêt.Enabled) = quitte;
+    };
+  }
+  rapide.t.OrdiJoue();
+  littéral.t.OrdiJoueLittéral();
+  ASSERT_EQ(Photo(rapide.t), Photo(littéral.t));
+  ASSERT_EQ(rapide.plateforme.relevé, littéral.plateforme.relevé);
+}
+
+TEST(RapideContreLittéral, DesMilliersDeMains) {
+  std::mt19937 g(20261122);
+  for (int n = 0; n < Tables; ++n) {
+    std::vector<int> mains[4];
+    for (int j = 0; j < 4; ++j)
+      mains[j] = UneMain(4 * n + j, g);
+    SCOPED_TRACE(n);
+    Compare(n % 4 != 0, mains); // one table in four in EXPERT
+    if (HasFatalFailure())
+      return;
+  }
+}
+
+TEST(RapideContreLittéral, InterrompuÀUnTourQuelconque) {
+  std::mt19937 g(7);
+  // The first and last turns of the seats, and turns at random.
+  std::vector<int> tours = {1, 2, 1287, 1288, 1289, 2575, 3862, 5148};
+  for (int k = 0; k < 8; ++k)
+    tours.push_back(std::uniform_int_distribution<int>(1, 5148)(g));
+  for (int tour : tours)
+    for (bool quitte : {false, true}) {
+      std::vector<int> mains[4];
+      for (int j = 0; j < 4; ++j)
+        mains[j] = UneMain(1 + j, g); // the hands with the most special rows
+      SCOPED_TRACE(tour);
+      Compare(1, mains, tour, quitte);
+      if (HasFatalFailure())
+        return;
+    }
+}
+
+TEST(RapideContreLittéral, UnSiègeSeul) {
+  std::mt19937 g(99);
+  for (int n = 0; n < Tables / 8; ++n) {
+    SessionEssai rapide, littéral;
+    const auto main = UneMain(n, g);
+    rapide.Main(3, main), littéral.Main(3, main);
+    rapide.t.ChercheSiège(3);
+    littéral.t.OrdiJoueLittéral();
+    EXPECT_EQ(rapide.t.MeilleurRangement[3], littéral.t.MeilleurRangement[3]);
+    EXPECT_EQ(rapide.t.MeilleureValeur, littéral.t.MeilleureValeur);
+    for (auto drapeaux :
+         {&TroisNiveaux::ToutFlush, &TroisNiveaux::ToutQuinte, &TroisNiveaux::SixPaires, &TroisNiveaux::MégaQuinte})
+      EXPECT_EQ((rapide.t.*drapeaux)[3], (littéral.t.*drapeaux)[3]);
+  }
+}
+
+} // namespace
