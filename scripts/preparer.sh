@@ -1,0 +1,24 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that are missing, then configures and builds
+# in build/ (or $1). Safe to run again: nothing up to date is redone.
+set -euo pipefail
+racine=$(cd "$(dirname "$0")/.." && pwd)
+construction=${1:-$racine/build}
+shift || true
+
+manquants=()
+while read -r paquet; do
+  [[ -z "$paquet" || "$paquet" == \#* ]] && continue
+  if ! dpkg-query -W -f='${Status}' "$paquet" 2>/dev/null | grep -q "install ok installed"; then
+    manquants+=("$paquet")
+  fi
+done < "$racine/scripts/paquets.txt"
+if ((${#manquants[@]})); then
+  sudo=""
+  [[ $(id -u) -ne 0 ]] && sudo="sudo"
+  $sudo apt-get update -qq
+  DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends "${manquants[@]}"
+fi
+
+cmake -S "$racine" -B "$construction" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo "$@" >/dev/null
+cmake --build "$construction" --parallel 2
