@@ -96,6 +96,9 @@ public:
   std::string ErreurDémarrage;
   // True while OrdiJoue is on the stack, so that no sweep starts inside another.
   bool BalayageEnCours = false;
+  // The mode of the last sweep of this deal: GO in DEBUTANT after an EXPERT
+  // sweep first finds the human's solution.
+  uint8_t ModeDuBalayage = 0;
   // Where each arrangement's levels fall among the seat's 5- and 3-card sets,
   // derived from Rangements at the first sweep (computer/).
   std::shared_ptr<const IndexBalayage> IndexDuBalayage;
@@ -171,4 +174,8 @@ public:
 
   // Shows picture `code` in slot `slot`; a code with no picture is passed over.
   void MontreCarte(int slot, int code);
+  // The buttons that deal, value, pay or leave the table, on or off together.
+  void ActiveMenu(bool actif);
+  // The clock's first value at the start of a deal or replay.
+  void DémarreHorloge();
 };

@@ -1,4 +1,31 @@
 #include "core/table_state.h"
 
-// Placeholder until this subsystem is written.
-void TroisNiveaux::Joue_Click() {}
+// GO: the human's layout is frozen, every layout valued, the showdown paid,
+// the clock's time kept for the next deal of this mode.
+void TroisNiveaux::Joue_Click() {
+  for (int i = 39; i <= 51; ++i)
+    Fenêtre.CartesJeu[i].Enabled = false;
+  // Turned to DEBUTANT after an EXPERT sweep: the human's cards were never
+  // searched, so the solution is found now, before anything is valued.
+  if (Mode == 1 && ModeDuBalayage == 0) {
+    ChercheSiège(3);
+    ModeDuBalayage = 1;
+  }
+  Décompte1();
+  Décompte2();
+  Décompte3();
+  Fenêtre.VoirOrdi[0].Enabled = true;
+  Fenêtre.VoirOrdi[1].Enabled = true;
+  if (Mode == 1)
+    Fenêtre.VoirOrdi[0].Visible = true;
+  ComptePaires(3);
+  AfficheRésultat();
+  Fenêtre.TempsLabel.Caption = "";
+  Fenêtre.TempsTimer.Enabled = false;
+  ÉcritTempsDuMode();
+  Fenêtre.Joue.Visible = false;
+  for (Contrôle *c : {&Fenêtre.NouveauJeu, &Fenêtre.Rejoue, &Fenêtre.NomsJoueurs,
+                      &Fenêtre.Scoresà0, &Fenêtre.Mode})
+    c->Enabled = true;
+  Fenêtre.Arrêt.Enabled = false;
+}
