@@ -125,3 +125,33 @@ TEST(Noms, EnregistreDonneLesNomsDeSecoursAuxCasesVidesEtAnnuleGardeLaSaisie) {
   EXPECT_EQ(f.NomsJoueursText[0].Text, "Zoé");
   EXPECT_EQ(dossier.Lit("Noms").substr(0, 12), "\"MicroProc\"\r");
 }
+
+TEST(Règles, LesPagesSeTournentEntreLaPremièreEtLaQuatorzième) {
+  PlateformeSansFenêtre p;
+  TroisNiveaux t(p);
+  t.ComposeTextesRègles();
+  auto &f = t.Fenêtre;
+  EXPECT_EQ(t.TextesRègles[13], "manière automatique à la fin de la donne, et ce, en mode DEBUTANT "
+                                "et en mode EXPERT.");
+  EXPECT_EQ(t.TextesRègles[7].back(), '\r');
+  EXPECT_EQ(t.TextesRègles[7].find('\n'), std::string::npos);
+  t.VoirRègles_Click(0);
+  EXPECT_TRUE(f.RèglesText.Visible && f.VoirRègles[1].Visible && !f.VoirRègles[0].Visible);
+  EXPECT_EQ(f.TextCombien.Caption, " 1/14");
+  t.TextScroll_Click(0);
+  EXPECT_EQ(t.PageRègles, 0) << "no page before the first";
+  for (int n = 0; n < 20; ++n)
+    t.TextScroll_Click(1);
+  EXPECT_EQ(t.PageRègles, 13);
+  EXPECT_EQ(f.TextCombien.Caption, " 14/14");
+  EXPECT_EQ(f.TextScroll[1].MousePointer, SensInterdit);
+  t.TextScroll_Click(0);
+  EXPECT_EQ(f.AfficheRègles.Caption, t.TextesRègles[12]);
+  EXPECT_EQ(f.TextScroll[1].MousePointer, FlècheHaut);
+  t.VoirRègles_Click(1);
+  EXPECT_FALSE(f.RèglesText.Visible);
+  t.VoirRègles_Click(0);
+  EXPECT_EQ(f.TextCombien.Caption, " 1/14");
+  t.TextScroll_Click(1);
+  EXPECT_EQ(f.TextCombien.Caption, " 2/14");
+}
