@@ -1,2 +1,81 @@
-// The game's entry: the window is created by the Qt layer.
-int main() { return 0; }
+// The game: the table in its window, over the engine.
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QMessageBox>
+#include <QTimer>
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <unistd.h>
+
+#include "core/table_state.h"
+#include "platform/qt/fenetre_table.h"
+#include "platform/qt/pages_web.h"
+#include "platform/qt/plateforme_qt.h"
+
+namespace {
+
+// TN_CAPTURE=file.png plays one deal at full speed, saves the table after the
+// showdown and quits: the screenshot of the README is made this way.
+void Capture(FenêtreTable &fenêtre, TroisNiveaux &t, PlateformeQt &p, const QString &fichier) {
+  QTimer::singleShot(300, &fenêtre, [&fenêtre, &t, &p, fichier] {
+    const double durée = p.duréeParSiège;
+    p.duréeParSiège = 0;
+    fenêtre.Événement([&t] { t.NouveauJeu_MouseUp(); });
+    fenêtre.Événement([&t] { t.Joue_Click(); });
+    p.duréeParSiège = durée;
+    QTimer::singleShot(200, &fenêtre, [&fenêtre, fichier] {
+      const bool réussi = fenêtre.grab().save(fichier);
+      std::fprintf(stderr, "%s %s\n", réussi ? "Capture :" : "Capture impossible :",
+                   fichier.toLocal8Bit().constData());
+      QCoreApplication::exit(réussi ? 0 : 1);
+    });
+  });
+}
+
+} // namespace
+
+int main(int argc, char *argv[]) {
+  QElapsedTimer depuisLeDébut;
+  depuisLeDébut.start();
+  PrépareWebEngine();
+  QApplication application(argc, argv);
+  QApplication::setApplicationName("TroisNiveaux");
+
+  PlateformeQt plateforme;
+  TroisNiveaux table(plateforme);
+  FenêtreTable fenêtre(table, plateforme);
+  plateforme.pages = std::make_unique<PagesWeb>(fenêtre.Vue(table.Fenêtre.Pub0Pic),
+                                                fenêtre.Vue(table.Fenêtre.Pub1Pic),
+                                                fenêtre.Vue(table.Fenêtre.LogoFondPic));
+  if (const char *durée = std::getenv("TN_DUREE_BALAYAGE"))
+    plateforme.duréeParSiège = std::atof(durée);
+
+  // A failed start is told by one modal message, after which the game ends.
+  plateforme.dialogues = false;
+  table.Form_Load();
+  plateforme.dialogues = true;
+  if (table.DémarrageRefusé) {
+    if (table.ErreurDémarrage.empty())
+      return 0; // the player refused the change of display mode
+    if (QGuiApplication::platformName() != "offscreen")
+      QMessageBox::critical(nullptr, "TroisNiveaux", QString::fromStdString(table.ErreurDémarrage));
+    return 1;
+  }
+  fenêtre.Synchronise();
+
+  if (std::getenv("TN_MESURES"))
+    static_cast<void>(QObject::connect(&application, &QApplication::aboutToQuit, [&plateforme] {
+      std::fprintf(stderr, "plus longue attente des événements : %lld ms\n",
+                   static_cast<long long>(plateforme.plusLongSansÉvénements));
+    }));
+  fenêtre.PremierAffichage([&depuisLeDébut] {
+    if (std::getenv("TN_MESURES"))
+      std::fprintf(stderr, "premier affichage : %lld ms\n",
+                   static_cast<long long>(depuisLeDébut.elapsed()));
+  });
+  fenêtre.show();
+  if (const char *fichier = std::getenv("TN_CAPTURE"))
+    Capture(fenêtre, table, plateforme, QString::fromLocal8Bit(fichier));
+  return application.exec();
+}

@@ -5,3 +5,4 @@ struct PagesWeb::Détail {};
 PagesWeb::PagesWeb(QWidget *, QWidget *, QWidget *) : détail(nullptr) {}
 PagesWeb::~PagesWeb() = default;
 void PagesWeb::Navigue(VueWeb, const std::string &) {}
+void PrépareWebEngine() {}

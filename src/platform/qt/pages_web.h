@@ -6,6 +6,9 @@
 
 class QWidget;
 
+// Settings the web engine needs before the application object exists.
+void PrépareWebEngine();
+
 class PagesWeb {
 public:
   // Each view is created as a child of its panel at the view's own geometry

@@ -1,0 +1,99 @@
+#include "platform/qt/plateforme_qt.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QMessageBox>
+#include <QTime>
+#include <QTimer>
+#include <QWidget>
+#include <cstdio>
+
+#include "core/table_state.h"
+#include "platform/qt/affichage.h"
+#include "platform/qt/dialogue_resolution.h"
+#include "platform/qt/pages_web.h"
+#include "platform/qt/reseau.h"
+
+PlateformeQt::PlateformeQt() { depuisDernierTour.start(); }
+PlateformeQt::~PlateformeQt() = default;
+
+void PlateformeQt::TourDeBoucle() {
+  if (depuisDernierTour.isValid())
+    plusLongSansÉvénements = std::max(plusLongSansÉvénements, depuisDernierTour.elapsed());
+  QCoreApplication::processEvents(QEventLoop::AllEvents);
+  depuisDernierTour.restart();
+  if (aprèsTour)
+    aprèsTour();
+}
+
+// The computation runs at full speed; the window then waits, handling events,
+// until this group's moment in an even schedule over the seat's sweep, so the
+// bar fills smoothly and the human has time to lay out cards.
+void PlateformeQt::TourDeBalayage(int siège, int groupe) {
+  (void)siège;
+  if (groupe == 0)
+    débutDuSiège.start();
+  TourDeBoucle();
+  if (duréeParSiège <= 0 || !débutDuSiège.isValid())
+    return;
+  const qint64 échéance = static_cast<qint64>(duréeParSiège * 1000.0 * (groupe + 1) / 1287);
+  for (;;) {
+    if (quitté || !table || table->SessionTerminée || !table->Fenêtre.Arrêt.Enabled)
+      return;
+    const qint64 reste = échéance - débutDuSiège.elapsed();
+    if (reste <= 0)
+      return;
+    QEventLoop attente;
+    QTimer::singleShot(static_cast<int>(std::min<qint64>(reste, 10)), Qt::PreciseTimer, &attente,
+                       &QEventLoop::quit);
+    attente.exec();
+    depuisDernierTour.restart();
+    if (aprèsTour)
+      aprèsTour();
+  }
+}
+
+void PlateformeQt::Quitte() {
+  quitté = true;
+  QCoreApplication::exit(0);
+}
+
+float PlateformeQt::SecondesDepuisMinuit() {
+  return static_cast<float>(QTime::currentTime().msecsSinceStartOfDay()) / 1000.0f;
+}
+
+std::string PlateformeQt::DossierDuProgramme() {
+  return QCoreApplication::applicationDirPath().toStdString();
+}
+
+void PlateformeQt::EnumDisplaySettings(EnregistrementAffichage &enregistrement) {
+  const EnregistrementAffichage lu = LitModeAffichage();
+  enregistrement.dmPelsWidth = lu.dmPelsWidth;
+  enregistrement.dmPelsHeight = lu.dmPelsHeight;
+  enregistrement.dmBitsPerPel = lu.dmBitsPerPel;
+  enregistrement.dmDisplayFrequency = lu.dmDisplayFrequency;
+}
+
+void PlateformeQt::ChangeDisplaySettings(const EnregistrementAffichage &enregistrement) {
+  AppliqueModeAffichage(enregistrement);
+}
+
+bool PlateformeQt::DemandeChangementRésolution() { return DemandeAccordRésolution(); }
+
+bool PlateformeQt::EstConnecté() { return MachineEnLigne(); }
+
+void PlateformeQt::Navigue(VueWeb vue, const std::string &adresse) {
+  if (pages)
+    pages->Navigue(vue, adresse);
+}
+
+void PlateformeQt::SignaleErreur(const std::string &message) {
+  std::fprintf(stderr, "TroisNiveaux : %s\n", message.c_str());
+  if (!dialogues)
+    return;
+  // Not modal: the game goes on behind the message.
+  auto *boîte = new QMessageBox(QMessageBox::Warning, "TroisNiveaux", QString::fromStdString(message));
+  boîte->setAttribute(Qt::WA_DeleteOnClose);
+  boîte->setModal(false);
+  boîte->show();
+}
