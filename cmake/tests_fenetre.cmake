@@ -1,0 +1,9 @@
+# Tests in the real window (offscreen when there is no display).
+find_package(Qt6 REQUIRED COMPONENTS Test)
+file(GLOB TESTS_FENETRE CONFIGURE_DEPENDS tests/window/*.cpp)
+if(TESTS_FENETRE)
+  add_executable(troisniveaux-tests-fenetre ${TESTS_FENETRE})
+  target_link_libraries(troisniveaux-tests-fenetre PRIVATE troisniveaux-fenetre Qt6::Test GTest::gtest)
+  target_include_directories(troisniveaux-tests-fenetre PRIVATE tests/engine)
+  gtest_discover_tests(troisniveaux-tests-fenetre DISCOVERY_TIMEOUT 60)
+endif()

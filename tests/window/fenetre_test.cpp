@@ -1,0 +1,177 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QImage>
+#include <QLineEdit>
+#include <QTest>
+#include <QTimer>
+
+#include "core/table_state.h"
+#include "dossier_essai.h"
+#include "platform/qt/fenetre_table.h"
+#include "platform/qt/images.h"
+#include "platform/qt/plateforme_qt.h"
+
+namespace {
+
+struct Table {
+  DossierEssai dossier;
+  struct Plateforme : PlateformeQt {
+    std::string dossier;
+    std::string DossierDuProgramme() override { return dossier; }
+  } plateforme;
+  TroisNiveaux t{plateforme};
+  FenêtreTable fenêtre{t, plateforme};
+
+  Table() {
+    plateforme.dossier = dossier.Chemin();
+    plateforme.dialogues = false;
+    plateforme.duréeParSiège = 0;
+    t.Form_Load();
+    fenêtre.Synchronise();
+    fenêtre.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&fenêtre));
+  }
+  QWidget *Vue(const Contrôle &c) { return fenêtre.Vue(c); }
+  void Clic(const Contrôle &c) { QTest::mouseClick(Vue(c), Qt::LeftButton); }
+  QColor Pixel(const Contrôle &c, QPoint où) {
+    return Vue(c)->grab().toImage().pixelColor(où * Vue(c)->devicePixelRatioF());
+  }
+};
+
+} // namespace
+
+TEST(Fenêtre, LesContrôlesSontÀLeurPlaceEtDansLeursCouleurs) {
+  Table table;
+  auto &f = table.t.Fenêtre;
+  EXPECT_EQ(table.fenêtre.size(), QSize(1024, 768));
+  EXPECT_EQ(table.fenêtre.windowTitle(), "MAISONDUCARRE");
+  EXPECT_EQ(table.Vue(f.SSJoueur[0])->geometry(), QRect(4, 161, 263, 277));
+  EXPECT_EQ(table.Vue(f.MenuSS)->geometry(), QRect(534, 440, 263, 157));
+  EXPECT_EQ(table.Vue(f.NouveauJeu)->geometry(), QRect(8, 8, 120, 103));
+  EXPECT_EQ(table.Vue(f.CartesJeu[44])->geometry(), QRect(0, 76, 90, 135));
+  EXPECT_EQ(table.Vue(f.LabelPaie[22])->geometry().top(), 5);
+  EXPECT_EQ(table.Pixel(f.SSJoueur[1], {200, 3}), QColor(0, 0xC0, 0));
+  EXPECT_EQ(table.Pixel(f.SSJoueur[2], {200, 3}), QColor(0xC0, 0xC0, 0));
+  EXPECT_EQ(table.Pixel(f.MenuSS, {2, 2}), QColor(0x80, 0x80, 0x80));
+  EXPECT_EQ(table.Pixel(f.TempsFondSS, {255, 20}), QColor(0xFF, 0xC0, 0x80));
+  EXPECT_FALSE(table.Vue(f.Joue)->isVisible());
+  EXPECT_FALSE(table.Vue(f.CartesJeu[40])->isEnabled());
+}
+
+TEST(Fenêtre, JouerMontreLesCartesDeLHumainEtDeuxClicsLesÉchangent) {
+  Table table;
+  auto &f = table.t.Fenêtre;
+  table.Clic(f.NouveauJeu);
+  ASSERT_TRUE(table.Vue(f.Joue)->isVisible());
+  for (int c = 0; c <= 38; ++c)
+    EXPECT_EQ(f.CartesJeu[c].Picture, PasDeCarte);
+  for (int k = 0; k <= 12; ++k)
+    EXPECT_EQ(f.CartesJeu[39 + k].Picture, table.t.Mains[3][k]);
+  const uint8_t a = table.t.Mains[4][0], b = table.t.Mains[4][12];
+  table.Clic(f.CartesJeu[39]);
+  table.Clic(f.CartesJeu[51]);
+  EXPECT_EQ(table.t.Mains[4][0], b);
+  EXPECT_EQ(table.t.Mains[4][12], a);
+  // The slot shows the card's own picture (inside its rounded corners).
+  const QRect dedans(8, 8, 74, 119);
+  const QImage montré =
+      table.Vue(f.CartesJeu[39])->grab().toImage().convertToFormat(QImage::Format_RGB32).copy(dedans);
+  const QImage attendu =
+      ImageBrute(b, QSize(90, 135), 1).convertToFormat(QImage::Format_RGB32).copy(dedans);
+  EXPECT_TRUE(montré == attendu);
+
+  table.Clic(f.Joue);
+  EXPECT_FALSE(table.Vue(f.Joue)->isVisible());
+  EXPECT_TRUE(table.Vue(f.EnchèreLabel[0])->isVisible() || f.ExtraLabel[0].Caption != "");
+  EXPECT_NE(f.CartesJeu[0].Picture, PasDeCarte);
+  EXPECT_TRUE(table.Vue(f.VoirOrdi[0])->isVisible());
+}
+
+TEST(Fenêtre, StopPendantUnBalayageRythméLArrêteAussitôt) {
+  Table table;
+  auto &f = table.t.Fenêtre;
+  table.plateforme.duréeParSiège = 8;
+  QElapsedTimer chrono;
+  chrono.start();
+  QTimer::singleShot(300, [&] {
+    EXPECT_TRUE(f.Arrêt.Enabled);
+    EXPECT_FALSE(f.NouveauJeu.Enabled);
+    table.Clic(f.Arrêt);
+  });
+  table.Clic(f.NouveauJeu);
+  EXPECT_LT(chrono.elapsed(), 3000);
+  EXPECT_FALSE(f.Arrêt.Enabled);
+  EXPECT_FALSE(table.Vue(f.Joue)->isVisible());
+  EXPECT_TRUE(table.Vue(f.NouveauJeu)->isEnabled());
+  EXPECT_LT(table.plateforme.plusLongSansÉvénements, 100);
+}
+
+TEST(Fenêtre, QuitterPendantLeBalayageFinitLaSession) {
+  Table table;
+  table.plateforme.duréeParSiège = 8;
+  int code = -1;
+  QTimer::singleShot(200, [&] { table.Clic(table.t.Fenêtre.Fin); });
+  QTimer::singleShot(0, [&] { table.Clic(table.t.Fenêtre.NouveauJeu); });
+  code = QApplication::exec();
+  EXPECT_EQ(code, 0);
+  EXPECT_TRUE(table.t.SessionTerminée);
+  EXPECT_TRUE(table.plateforme.quitté);
+}
+
+TEST(Fenêtre, LeLivreDesRèglesSeFeuillette) {
+  Table table;
+  auto &f = table.t.Fenêtre;
+  table.Clic(f.VoirRègles[0]);
+  EXPECT_TRUE(table.Vue(f.RèglesText)->isVisible());
+  EXPECT_EQ(f.TextCombien.Caption, " 1/14");
+  EXPECT_EQ(table.Vue(f.TextScroll[0])->cursor().shape(), Qt::ForbiddenCursor);
+  table.Clic(f.TextScroll[1]);
+  table.Clic(f.TextScroll[1]);
+  EXPECT_EQ(f.TextCombien.Caption, " 3/14");
+  QTest::keyClick(&table.fenêtre, Qt::Key_F1);
+  EXPECT_FALSE(table.Vue(f.RèglesText)->isVisible()) << "F1 closes the book with its OK";
+}
+
+TEST(Fenêtre, LeRaccourciNAgitQueSurUnBoutonActif) {
+  Table table;
+  auto &f = table.t.Fenêtre;
+  QTest::keyClick(&table.fenêtre, Qt::Key_Return);
+  EXPECT_EQ(f.CartesJeu[39].Picture, PasDeCarte) << "GO is hidden: Enter does nothing";
+  QTest::keyClick(&table.fenêtre, Qt::Key_F2);
+  EXPECT_TRUE(f.Joue.Visible);
+  QTest::keyClick(&table.fenêtre, Qt::Key_Return);
+  EXPECT_TRUE(f.VoirOrdi[0].Visible);
+}
+
+TEST(Fenêtre, LesNomsRefusentLesGuillemetsEtCeQueLeFichierNePeutPorter) {
+  Table table;
+  auto &f = table.t.Fenêtre;
+  table.Clic(f.NomsJoueurs);
+  auto *saisie = table.Vue(f.NomsJoueursText[0])->findChild<QLineEdit *>();
+  ASSERT_NE(saisie, nullptr);
+  saisie->selectAll();
+  QTest::keyClick(saisie, Qt::Key_Backspace);
+  QTest::keyClicks(saisie, "Zo");
+  QTest::sendKeyEvent(QTest::KeyAction::Click, saisie, Qt::Key_unknown, QString("é"), Qt::NoModifier);
+  QTest::keyClicks(saisie, "\"");
+  QTest::sendKeyEvent(QTest::KeyAction::Click, saisie, Qt::Key_unknown, QString("\u0416"), Qt::NoModifier);
+  EXPECT_EQ(saisie->text(), "Zoé");
+  EXPECT_EQ(f.NomsJoueursText[0].Text, "Zoé");
+  auto *deuxième = table.Vue(f.NomsJoueursText[1])->findChild<QLineEdit *>();
+  deuxième->clear();
+  table.Clic(f.EnregistreNoms);
+  EXPECT_EQ(f.JoueursLabel[0].Caption, "Zoé");
+  EXPECT_EQ(f.JoueursLabel[1].Caption, "GigaOctets");
+  EXPECT_EQ(table.dossier.Lit("Noms").substr(0, 6), "\"Zo\xE9\"\r");
+  EXPECT_FALSE(table.Vue(f.NomsJoueursSS)->isVisible());
+}
+
+TEST(Images, LesCartesSontNettesÀToutRapport) {
+  const QImage simple = ImageBrute(17, QSize(90, 135), 1);
+  const QImage double_ = ImageBrute(17, QSize(90, 135), 2);
+  EXPECT_EQ(simple.size(), QSize(90, 135));
+  EXPECT_EQ(double_.size(), QSize(180, 270));
+  EXPECT_NE(ImageBrute(4, QSize(90, 135), 1), ImageBrute(7, QSize(90, 135), 1)) << "6 and 9";
+  EXPECT_NE(ImageBrute(13, QSize(90, 135), 1), ImageBrute(26, QSize(90, 135), 1)) << "♦ and ♥";
+}

@@ -1,0 +1,14 @@
+// The window tests need a display: without one they use Qt's offscreen
+// platform. Test discovery runs without the test's environment, so it is set
+// here.
+#include <QApplication>
+#include <cstdlib>
+#include <gtest/gtest.h>
+
+int main(int argc, char **argv) {
+  if (!std::getenv("QT_QPA_PLATFORM") && !std::getenv("DISPLAY"))
+    setenv("QT_QPA_PLATFORM", "offscreen", 1);
+  QApplication application(argc, argv);
+  ::testing::InitGoogleTest(&argc, argv);
+  return RUN_ALL_TESTS();
+}
