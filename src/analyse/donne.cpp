@@ -1,5 +1,238 @@
-// `troisniveaux-analyse donne`: placeholder.
+// `troisniveaux-analyse donne`: one deal of a Tirage file played through the
+// game's own handlers, as a replay, in a session of its own.
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <optional>
+#include <random>
 #include <string>
 #include <vector>
 
-int CommandeDonne(const std::vector<std::string> &) { return 2; }
+#include "analyse/texte.h"
+#include "core/table_state.h"
+#include "platform/sans_fenetre.h"
+
+namespace {
+
+const char *const AideDonne =
+    "Usage : troisniveaux-analyse donne --tirage FICHIER [--expert | --debutant]\n"
+    "                                   [--humain C1 ... C13] [--json]\n"
+    "\n"
+    "Rejoue la donne du fichier Tirage (52 codes, un par ligne) comme le bouton REJOUE,\n"
+    "dans une séance à part : scores à 0, un dossier temporaire ; les fichiers du joueur\n"
+    "ne sont ni lus ni écrits. Affiche la table après l'abattage : les niveaux de chaque\n"
+    "joueur et leur classe, les mains spéciales, les 36 paiements, les totaux et scores.\n"
+    "\n"
+    "  --tirage FICHIER   le fichier de la donne (obligatoire)\n"
+    "  --debutant         mode DEBUTANT (par défaut) ; --expert : mode EXPERT\n"
+    "  --humain C1..C13   la disposition du joueur humain, ses 13 cartes dans l'ordre\n"
+    "                     des places 0 à 12 (par défaut : dans l'ordre de la donne) ;\n"
+    "                     cartes écrites comme pour la commande main\n"
+    "  --json             une seule ligne JSON\n";
+
+// A temporary folder for the session, removed at the end.
+class Dossier {
+public:
+  Dossier() {
+    std::random_device hasard;
+    chemin = std::filesystem::temp_directory_path() /
+             ("troisniveaux-donne-" + std::to_string(hasard()) + std::to_string(hasard()));
+    std::filesystem::create_directories(chemin);
+  }
+  ~Dossier() {
+    std::error_code e;
+    std::filesystem::current_path(std::filesystem::temp_directory_path(), e);
+    std::filesystem::remove_all(chemin, e);
+  }
+  Dossier(const Dossier &) = delete;
+  Dossier &operator=(const Dossier &) = delete;
+  void Écrit(const std::string &nom, const std::string &octets) const {
+    std::ofstream(chemin / nom, std::ios::binary) << octets;
+  }
+  std::filesystem::path chemin;
+};
+
+std::string Chaîne(const std::string &s) {
+  std::string j = "\"";
+  for (char c : s) {
+    if (c == '"' || c == '\\')
+      j += '\\';
+    j += c;
+  }
+  return j + "\"";
+}
+
+template <typename F> std::string Liste(int n, F élément) {
+  std::string s = "[";
+  for (int i = 0; i < n; ++i)
+    s += (i ? ", " : "") + élément(i);
+  return s + "]";
+}
+
+// The labels and cards of the table as they stand.
+std::string Table(const TroisNiveaux &t) {
+  const auto &f = t.Fenêtre;
+  std::string s;
+  s += "\"ExtraLabel\": " + Liste(4, [&](int i) { return Chaîne(f.ExtraLabel[i].Caption); });
+  s += ", \"LabelPaie\": " + Liste(36, [&](int i) { return Chaîne(f.LabelPaie[i].Caption); });
+  s += ", \"TotalLabel\": " + Liste(4, [&](int i) { return Chaîne(f.TotalLabel[i].Caption); });
+  s += ", \"ScoreLabel\": " + Liste(4, [&](int i) { return Chaîne(f.ScoreLabel[i].Caption); });
+  s += ", \"EnchèreLabel\": " + Liste(12, [&](int i) {
+         return "{\"Caption\": " + Chaîne(f.EnchèreLabel[i].Caption) +
+                ", \"Visible\": " + (f.EnchèreLabel[i].Visible ? "true" : "false") + "}";
+       });
+  s += ", \"CartesJeu\": " + Liste(52, [&](int i) { return std::to_string(f.CartesJeu[i].Picture); });
+  return s;
+}
+
+// The table after the showdown; the solution view's fields follow when asked.
+std::string Json(const TroisNiveaux &t) {
+  std::string s = "{\"Mode\": " + std::to_string(t.Mode);
+  s += ", \"MeilleurRangement\": " + Liste(4, [&](int i) { return std::to_string(t.MeilleurRangement[i]); });
+  s += ", \"ValeursNiveau1\": " + Liste(5, [&](int i) { return texte::Nombre(t.ValeursNiveau1[i]); });
+  s += ", \"ValeursNiveau2\": " + Liste(5, [&](int i) { return texte::Nombre(t.ValeursNiveau2[i]); });
+  s += ", \"ValeursNiveau3\": " + Liste(5, [&](int i) { return texte::Nombre(t.ValeursNiveau3[i]); });
+  return s + ", " + Table(t);
+}
+
+const char *const NomsDesSièges[4] = {"Siège 0", "Siège 1", "Siège 2", "Siège 3 (humain)"};
+
+void Lisible(std::ostream &o, const TroisNiveaux &t) {
+  const auto &f = t.Fenêtre;
+  o << "Mode " << (t.Mode ? "DEBUTANT" : "EXPERT") << "\n";
+  for (int s = 0; s <= 3; ++s) {
+    o << "\n" << NomsDesSièges[s] << " — " << f.JoueursLabel[s].Caption;
+    if (s < 3 || t.Mode == 1)
+      o << ", rangement " << t.MeilleurRangement[s];
+    o << "\n";
+    if (!f.ExtraLabel[s].Caption.empty())
+      o << "  " << f.ExtraLabel[s].Caption << "\n";
+    const double valeurs[3] = {t.ValeursNiveau1[s], t.ValeursNiveau2[s], t.ValeursNiveau3[s]};
+    for (int n = 0; n <= 2; ++n) {
+      o << "  NIVEAU " << n + 1 << " :";
+      const int première = n == 0 ? 0 : n == 1 ? 5 : 10, nombre = n == 2 ? 3 : 5;
+      for (int k = première; k < première + nombre; ++k)
+        o << " " << texte::Carte(f.CartesJeu[13 * s + k].Picture);
+      const Contrôle &classe = f.EnchèreLabel[3 * s + n];
+      o << "  " << (classe.Visible ? classe.Caption : "-") << " ("
+        << (n == 2 ? texte::Nombre(static_cast<float>(valeurs[n])) : texte::Nombre(valeurs[n])) << ")";
+      o << "  paiements :";
+      for (int j = 0; j <= 2; ++j)
+        o << " " << f.LabelPaie[9 * s + 3 * n + j].Caption;
+      o << "\n";
+    }
+    o << "  total " << f.TotalLabel[s].Caption << ", score " << f.ScoreLabel[s].Caption << "\n";
+  }
+}
+
+} // namespace
+
+int CommandeDonne(const std::vector<std::string> &arguments) {
+  std::optional<std::string> fichier;
+  uint8_t mode = 1;
+  bool json = false;
+  std::optional<std::vector<uint8_t>> humain;
+  for (std::size_t i = 0; i < arguments.size(); ++i) {
+    const std::string &a = arguments[i];
+    if (a == "--help" || a == "-h") {
+      std::cout << AideDonne;
+      return 0;
+    } else if (a == "--json") {
+      json = true;
+    } else if (a == "--expert") {
+      mode = 0;
+    } else if (a == "--debutant") {
+      mode = 1;
+    } else if (a == "--tirage") {
+      if (++i == arguments.size()) {
+        std::cerr << "--tirage attend un nom de fichier.\n";
+        return 2;
+      }
+      fichier = arguments[i];
+    } else if (a == "--humain") {
+      humain.emplace();
+      while (i + 1 < arguments.size() && arguments[i + 1].rfind("--", 0) != 0) {
+        const auto code = texte::LitCarte(arguments[++i]);
+        if (!code) {
+          std::cerr << "Carte inconnue : « " << arguments[i] << " ».\n";
+          return 2;
+        }
+        humain->push_back(*code);
+      }
+    } else {
+      std::cerr << "Argument inconnu : « " << a << " ». Voir troisniveaux-analyse donne --help.\n";
+      return 2;
+    }
+  }
+  if (!fichier) {
+    std::cerr << "Il faut un fichier de donne : --tirage FICHIER. Voir troisniveaux-analyse donne --help.\n";
+    return 2;
+  }
+  std::ifstream entrée(*fichier, std::ios::binary);
+  std::error_code e;
+  if (!entrée || !std::filesystem::is_regular_file(*fichier, e)) {
+    std::cerr << "Le fichier « " << *fichier << " » ne peut pas être lu.\n";
+    return 2;
+  }
+  std::string octets;
+  octets.resize(64 * 1024);
+  entrée.read(octets.data(), static_cast<std::streamsize>(octets.size()));
+  octets.resize(static_cast<std::size_t>(entrée.gcount()));
+
+  Dossier dossier;
+  dossier.Écrit("Noms", "\"MicroProc\"\r\n\"GigaOctets\"\r\n\"M\xE9gaBytes\"\r\n\"Bibi\"\r\n");
+  dossier.Écrit("Scores", "0\r\n0\r\n0\r\n0\r\n");
+  dossier.Écrit("Tirage", octets);
+  PlateformeSansFenêtre plateforme(dossier.chemin.string());
+  TroisNiveaux t(plateforme);
+  t.Form_Load();
+  if (t.DémarrageRefusé) {
+    std::cerr << t.ErreurDémarrage << "\n";
+    return 1;
+  }
+  if (t.Mode != mode)
+    t.Mode_MouseUp();
+
+  if (humain) {
+    t.LitTirage();
+    std::vector<uint8_t> dealt(t.Mains[3], t.Mains[3] + 13), voulu = *humain;
+    std::sort(dealt.begin(), dealt.end());
+    std::sort(voulu.begin(), voulu.end());
+    if (humain->size() != 13 || dealt != voulu) {
+      std::cerr << "--humain doit donner les 13 cartes du siège 3 de ce tirage, chacune une fois.\n";
+      return 2;
+    }
+    // Laid out by the human's own clicks, at the sweep's first turn.
+    plateforme.script = [&t, &humain](int tour) {
+      if (tour != 1)
+        return;
+      for (int k = 0; k <= 12; ++k) {
+        int j = k;
+        while (j <= 12 && t.Mains[4][j] != (*humain)[k])
+          ++j;
+        if (j <= 12 && j != k) {
+          t.CartesJeu_MouseUp(39 + k);
+          t.CartesJeu_MouseUp(39 + j);
+        }
+      }
+    };
+  }
+  t.Rejoue_MouseUp();
+  plateforme.script = nullptr;
+
+  if (json) {
+    std::string ligne = Json(t);
+    if (t.Mode == 1 && t.Fenêtre.VoirOrdi[0].Visible) {
+      t.VoirOrdi_Click(0);
+      ligne += ", \"solution\": {" + Table(t) + "}";
+      t.VoirOrdi_Click(1);
+      ligne += ", \"retour\": {" + Table(t) + "}";
+    }
+    std::cout << ligne << "}\n";
+  } else {
+    Lisible(std::cout, t);
+  }
+  return 0;
+}

@@ -6,6 +6,9 @@
 #include "analyse/commande_main.h"
 #include "analyse/session_analyse.h"
 #include "analyse/texte.h"
+#include "dossier_essai.h"
+
+int CommandeDonne(const std::vector<std::string> &arguments);
 
 namespace {
 
@@ -78,3 +81,46 @@ TEST(CommandeMain, SessionDansUnDossierTemporaireEffacé) {
 }
 
 } // namespace
+
+TEST(AnalyseDonne, LesArgumentsFautifsSortentAvecLeCodeDeux) {
+  EXPECT_EQ(CommandeDonne({}), 2);
+  EXPECT_EQ(CommandeDonne({"--tirage"}), 2);
+  EXPECT_EQ(CommandeDonne({"--tirage", "/nonexistent/Tirage"}), 2);
+  EXPECT_EQ(CommandeDonne({"--inconnu"}), 2);
+}
+
+TEST(AnalyseDonne, LaDonneExperteDeRéférenceEnJson) {
+  DossierEssai dossier;
+  std::string tirage;
+  for (int c : {1,  17, 14, 19, 38, 2,  13, 4,  24, 43, 25, 33, 26, 22, 3,  36, 10, 0,
+                8,  9,  27, 49, 47, 48, 35, 39, 32, 23, 6,  34, 5,  46, 41, 20, 50, 37,
+                45, 16, 29, 18, 44, 31, 15, 28, 30, 51, 40, 12, 42, 21, 7,  11})
+    tirage += std::to_string(c) + "\r\n";
+  dossier.Écrit("Tirage", tirage);
+  const std::string fichier = dossier.Chemin() + "/Tirage";
+  testing::internal::CaptureStdout();
+  ASSERT_EQ(CommandeDonne({"--expert", "--tirage", fichier, "--json"}), 0);
+  const std::string sortie = testing::internal::GetCapturedStdout();
+  EXPECT_EQ(sortie.find('\n'), sortie.size() - 1) << "one line";
+  EXPECT_NE(sortie.find("\"MeilleurRangement\": [49298, 26192, 13328, 0]"), std::string::npos) << sortie;
+  EXPECT_NE(sortie.find("\"TotalLabel\": [\"-5\", \"21\", \"-7\", \"-9\"]"), std::string::npos);
+  EXPECT_EQ(sortie.find("\"solution\""), std::string::npos) << "no solution view in EXPERT";
+
+  // In DEBUTANT with the human's cards turned round, the view and its way back.
+  testing::internal::CaptureStdout();
+  ASSERT_EQ(CommandeDonne({"--tirage", fichier, "--json", "--humain", "11", "7", "21", "42", "12",
+                           "40", "51", "30", "28", "15", "31", "44", "18"}),
+            0);
+  const std::string débutant = testing::internal::GetCapturedStdout();
+  EXPECT_NE(débutant.find("\"ExtraLabel\": [\"\", \"\", \"\", \"ERREUR !\"]"), std::string::npos);
+  const auto solution = débutant.find("\"solution\"");
+  ASSERT_NE(solution, std::string::npos);
+  const auto retour = débutant.find("\"retour\"");
+  ASSERT_NE(retour, std::string::npos);
+  EXPECT_GT(débutant.find("ERREUR !", solution), retour) << "the solution is in order";
+  EXPECT_NE(débutant.find("ERREUR !", retour), std::string::npos) << "and back to the human's";
+
+  testing::internal::CaptureStderr();
+  EXPECT_EQ(CommandeDonne({"--tirage", fichier, "--humain", "1", "2"}), 2);
+  EXPECT_NE(testing::internal::GetCapturedStderr().find("13 cartes"), std::string::npos);
+}
