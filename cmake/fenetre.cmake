@@ -17,3 +17,27 @@ if(X11_FOUND AND X11_Xrandr_FOUND)
   target_link_libraries(troisniveaux-fenetre PUBLIC X11::X11 X11::Xrandr)
   target_compile_definitions(troisniveaux-fenetre PRIVATE TN_XRANDR)
 endif()
+
+# The advert panels: Qt WebEngine, unless left out. The server's base address
+# is a setting; empty means the program's own folder, where the game ships
+# its pages.
+option(TN_WEBENGINE "Show the advert panels with Qt WebEngine" ON)
+set(TN_PUB_BASE "" CACHE STRING "Base address of the advert pages (empty: the program's folder)")
+if(TN_WEBENGINE)
+  find_package(Qt6 COMPONENTS WebEngineWidgets)
+  if(Qt6WebEngineWidgets_FOUND)
+    target_link_libraries(troisniveaux-fenetre PUBLIC Qt6::WebEngineWidgets)
+    target_compile_definitions(troisniveaux-fenetre PUBLIC TN_WEBENGINE)
+  else()
+    message(STATUS "Qt WebEngine not found: the advert panels stay black")
+  endif()
+endif()
+if(TN_PUB_BASE)
+  target_compile_definitions(troisniveaux-fenetre PRIVATE TN_PUB_BASE="${TN_PUB_BASE}")
+endif()
+
+# The game's own pages, refreshed at every build.
+add_custom_command(TARGET troisniveaux POST_BUILD
+  COMMAND ${CMAKE_COMMAND} -E copy_if_different
+          ${CMAKE_SOURCE_DIR}/data/pub0.htm ${CMAKE_SOURCE_DIR}/data/pub1.htm
+          ${CMAKE_SOURCE_DIR}/data/logomdc200.htm $<TARGET_FILE_DIR:troisniveaux>)

@@ -1,5 +1,8 @@
 #pragma once
-// The three web views of the table, each inside its panel widget.
+// The three web views of the table, each inside its panel widget. They load
+// nothing but the pages of the configured server and the local logo page,
+// take no event, and are created only once the window is up.
+#include <QString>
 #include <string>
 
 #include "platform/plateforme.h"
@@ -12,11 +15,27 @@ void PrépareWebEngine();
 class PagesWeb {
 public:
   // Each view is created as a child of its panel at the view's own geometry
-  // (pixels, relative to the panel), so the panel clips it.
+  // (relative to the panel), so the panel clips it. A null panel has no view.
   PagesWeb(QWidget *panneauPub0, QWidget *panneauPub1, QWidget *panneauLogo);
   ~PagesWeb();
-  // Opens `page` (a bare file name such as "pub0.htm") in the view.
+  PagesWeb(const PagesWeb &) = delete;
+  PagesWeb &operator=(const PagesWeb &) = delete;
+
+  // Opens `page` (a bare file name such as "pub0.htm"): the advert pages
+  // from the server's base address, the logo from the program's folder.
   void Navigue(VueWeb vue, const std::string &page);
+
+  // The server's base address: a setting of the build, by default the
+  // program's own folder. Tests point it elsewhere.
+  static QString Base();
+  static void DéfinitBase(const QString &base);
+  // Whether the views may load this address.
+  static bool Permis(const QString &adresse);
+  // Requests refused so far, for tests.
+  static int Refusées();
+
+  // The view of a panel, or null (also when the build has no web engine).
+  QWidget *Vue(VueWeb vue) const;
 
 private:
   struct Détail;
