@@ -7,3 +7,7 @@ if(TESTS_FENETRE)
   target_include_directories(troisniveaux-tests-fenetre PRIVATE tests/engine)
   gtest_discover_tests(troisniveaux-tests-fenetre DISCOVERY_TIMEOUT 60)
 endif()
+if(TESTS_FENETRE AND TN_SANITIZE)
+  # The browser's own processes are not ours to check under the sanitizers.
+  target_compile_definitions(troisniveaux-tests-fenetre PRIVATE TN_SANS_CHROMIUM)
+endif()

@@ -5,9 +5,12 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 
+#include "platform/qt/pages_web.h"
+
 int main(int argc, char **argv) {
   if (!std::getenv("QT_QPA_PLATFORM") && !std::getenv("DISPLAY"))
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
+  PrépareWebEngine();
   QApplication application(argc, argv);
   ::testing::InitGoogleTest(&argc, argv);
   return RUN_ALL_TESTS();
