@@ -77,5 +77,15 @@ int main(int argc, char *argv[]) {
   fenêtre.show();
   if (const char *fichier = std::getenv("TN_CAPTURE"))
     Capture(fenêtre, table, plateforme, QString::fromLocal8Bit(fichier));
+  // For the figures script: a deal started by itself, and a session that
+  // ends by itself after so many milliseconds.
+  if (std::getenv("TN_JOUE_AUTO"))
+    QTimer::singleShot(500, &fenêtre, [&fenêtre, &table] {
+      fenêtre.Événement([&table] { table.NouveauJeu_MouseUp(); });
+    });
+  if (const char *délai = std::getenv("TN_QUITTE_APRES"))
+    QTimer::singleShot(std::atoi(délai), &fenêtre, [&fenêtre, &table] {
+      fenêtre.Événement([&table] { table.Fin_MouseUp(); });
+    });
   return application.exec();
 }

@@ -1,0 +1,56 @@
+#!/usr/bin/env bash
+# Prints the game's figures on a virtual X screen: time to the first painted
+# frame, CPU use of an idle table with the stars running, the longest stretch
+# without handling events during a paced sweep, and resident memory, with and
+# without the web panels. Needs a build in build/ (and build-sans-web/ for
+# the second column); uses its own copy of the data files.
+set -euo pipefail
+racine=$(cd "$(dirname "$0")/.." && pwd)
+
+mesure() { # $1: the build folder
+  local dossier copie
+  dossier=$1
+  copie=$(mktemp -d)
+  cp "$dossier/troisniveaux" "$racine/data/Noms" "$racine/data/Scores" "$copie/"
+  cp "$racine"/data/*.htm "$copie/" 2>/dev/null || true
+  export TN_MESURES=1
+
+  # Start-up: median of five starts.
+  local premiers=()
+  for _ in 1 2 3 4 5; do
+    premiers+=("$(TN_QUITTE_APRES=1500 xvfb-run -a "$copie/troisniveaux" 2>&1 |
+      sed -n 's/^premier affichage : \([0-9]*\) ms/\1/p')")
+  done
+  echo "  premier affichage (médiane de 5) : $(printf '%s\n' "${premiers[@]}" | sort -n | sed -n 3p) ms"
+
+  # Idle table: CPU and memory of the game and of its child processes.
+  TN_QUITTE_APRES=16000 xvfb-run -a "$copie/troisniveaux" >/dev/null 2>&1 &
+  sleep 4
+  local pid
+  pid=$(pgrep -n -f "$copie/troisniveaux")
+  arbre() { echo "$pid"; pgrep -P "$pid" || true; for e in $(pgrep -P "$pid" || true); do pgrep -P "$e" || true; done; }
+  temps() { local t=0; for p in $(arbre); do [[ -r /proc/$p/stat ]] && t=$((t + $(awk '{print $14 + $15}' /proc/$p/stat))); done; echo $t; }
+  local avant après mémoire=0 mémoireTotale=0
+  avant=$(temps)
+  sleep 10
+  après=$(temps)
+  mémoire=$(awk '/VmRSS/ {print $2}' /proc/$pid/status)
+  for p in $(arbre); do
+    [[ -r /proc/$p/status ]] && mémoireTotale=$((mémoireTotale + $(awk '/VmRSS/ {print $2}' /proc/$p/status)))
+  done
+  echo "  processeur, table au repos pendant 10 s : $(awk -v t=$((après - avant)) -v hz="$(getconf CLK_TCK)" 'BEGIN {printf "%.1f", 100 * t / hz / 10}') % d'un cœur"
+  echo "  mémoire résidente : $((mémoire / 1024)) Mo (jeu), $((mémoireTotale / 1024)) Mo (avec ses processus)"
+  wait || true
+
+  # A paced sweep of four seats: the longest wait for the event loop.
+  TN_JOUE_AUTO=1 TN_QUITTE_APRES=12000 xvfb-run -a "$copie/troisniveaux" 2>&1 |
+    sed -n 's/^plus longue attente des événements : \(.*\)/  plus longue attente des événements pendant un balayage : \1/p'
+  rm -rf "$copie"
+}
+
+echo "Avec les panneaux web ($racine/build) :"
+mesure "$racine/build"
+if [[ -x "$racine/build-sans-web/troisniveaux" ]]; then
+  echo "Sans les panneaux web ($racine/build-sans-web) :"
+  mesure "$racine/build-sans-web"
+fi
