@@ -178,4 +178,7 @@ public:
   void ActiveMenu(bool actif);
   // The clock's first value at the start of a deal or replay.
   void DémarreHorloge();
+  // The start and the end of a deal, shared by JOUER, GO and the replay.
+  void OuvreLaDonne();
+  void Abattage();
 };

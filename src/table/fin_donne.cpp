@@ -1,7 +1,6 @@
 #include "core/table_state.h"
 
-// GO: the human's layout is frozen, every layout valued, the showdown paid,
-// the clock's time kept for the next deal of this mode.
+// GO: the human's layout is frozen, then the showdown.
 void TroisNiveaux::Joue_Click() {
   for (int i = 39; i <= 51; ++i)
     Fenêtre.CartesJeu[i].Enabled = false;
@@ -11,6 +10,14 @@ void TroisNiveaux::Joue_Click() {
     ChercheSiège(3);
     ModeDuBalayage = 1;
   }
+  Abattage();
+  Fenêtre.Joue.Visible = false;
+}
+
+// The end of a deal, after GO or a replay's sweep: every layout valued, the
+// human's pairs counted, the showdown paid, the clock's time kept for the
+// next deal of this mode, and the table given back to the buttons.
+void TroisNiveaux::Abattage() {
   Décompte1();
   Décompte2();
   Décompte3();
@@ -23,7 +30,6 @@ void TroisNiveaux::Joue_Click() {
   Fenêtre.TempsLabel.Caption = "";
   Fenêtre.TempsTimer.Enabled = false;
   ÉcritTempsDuMode();
-  Fenêtre.Joue.Visible = false;
   for (Contrôle *c : {&Fenêtre.NouveauJeu, &Fenêtre.Rejoue, &Fenêtre.NomsJoueurs,
                       &Fenêtre.Scoresà0, &Fenêtre.Mode})
     c->Enabled = true;

@@ -8,17 +8,22 @@ void TroisNiveaux::ActiveMenu(bool actif) {
     c->Enabled = actif;
 }
 
+// The table as a deal or replay begins: the menu off, STOP on, the table reset.
+void TroisNiveaux::OuvreLaDonne() {
+  Fenêtre.Joue.Visible = false;
+  Fenêtre.VoirOrdi[0].Visible = false;
+  ActiveMenu(false);
+  Fenêtre.Arrêt.Enabled = true;
+  Init();
+}
+
 // JOUER: a new deal, then the computer's sweep, during which the human lays
 // out cards. A release that arrives while a sweep is still on the stack (STOP
 // pressed, the sweep not yet returned) is ignored.
 void TroisNiveaux::NouveauJeu_MouseUp() {
   if (Fenêtre.NomsJoueursSS.Visible || BalayageEnCours)
     return;
-  Fenêtre.Joue.Visible = false;
-  Fenêtre.VoirOrdi[0].Visible = false;
-  ActiveMenu(false);
-  Fenêtre.Arrêt.Enabled = true;
-  Init();
+  OuvreLaDonne();
   Distribue();
   DémarreHorloge();
   ModeDuBalayage = Mode;

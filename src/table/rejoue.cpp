@@ -6,11 +6,7 @@
 void TroisNiveaux::Rejoue_MouseUp() {
   if (BalayageEnCours)
     return;
-  Fenêtre.Joue.Visible = false;
-  Fenêtre.VoirOrdi[0].Visible = false;
-  ActiveMenu(false);
-  Fenêtre.Arrêt.Enabled = true;
-  Init();
+  OuvreLaDonne();
   LitTirage();
   DémarreHorloge();
   ModeDuBalayage = Mode;
@@ -24,20 +20,5 @@ void TroisNiveaux::Rejoue_MouseUp() {
     Fenêtre.TempsTimer.Enabled = false;
     return;
   }
-  Décompte1();
-  Décompte2();
-  Décompte3();
-  Fenêtre.VoirOrdi[0].Enabled = true;
-  Fenêtre.VoirOrdi[1].Enabled = true;
-  if (Mode == 1)
-    Fenêtre.VoirOrdi[0].Visible = true;
-  ComptePaires(3);
-  AfficheRésultat();
-  Fenêtre.TempsLabel.Caption = "";
-  Fenêtre.TempsTimer.Enabled = false;
-  ÉcritTempsDuMode();
-  for (Contrôle *c : {&Fenêtre.NouveauJeu, &Fenêtre.Rejoue, &Fenêtre.NomsJoueurs,
-                      &Fenêtre.Scoresà0, &Fenêtre.Mode})
-    c->Enabled = true;
-  Fenêtre.Arrêt.Enabled = false;
+  Abattage();
 }
