@@ -33,6 +33,7 @@ QString DossierDuProgramme() {
   return QUrl::fromLocalFile(QCoreApplication::applicationDirPath() + "/").toString();
 }
 
+#ifdef TN_WEBENGINE
 // View geometry in pixels, relative to its panel (twips / 15).
 QRect Géométrie(VueWeb vue) {
   switch (vue) {
@@ -45,7 +46,6 @@ QRect Géométrie(VueWeb vue) {
   }
 }
 
-#ifdef TN_WEBENGINE
 class Filtre : public QWebEngineUrlRequestInterceptor {
 public:
   using QWebEngineUrlRequestInterceptor::QWebEngineUrlRequestInterceptor;
