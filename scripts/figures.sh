@@ -2,8 +2,8 @@
 # Prints the game's figures on a virtual X screen: time to the first painted
 # frame, CPU use of an idle table with the stars running, the longest stretch
 # without handling events during a paced sweep, and resident memory, with and
-# without the web panels. Needs a build in build/ (and build-sans-web/ for
-# the second column); uses its own copy of the data files.
+# without the web panels. Takes the build folders to measure (default: build/,
+# and build-sans-web/ when it exists); uses its own copy of the data files.
 set -euo pipefail
 racine=$(cd "$(dirname "$0")/.." && pwd)
 
@@ -30,16 +30,16 @@ mesure() { # $1: the build folder
   pid=$(pgrep -n -f "$copie/troisniveaux")
   arbre() { echo "$pid"; pgrep -P "$pid" || true; for e in $(pgrep -P "$pid" || true); do pgrep -P "$e" || true; done; }
   temps() { local t=0; for p in $(arbre); do [[ -r /proc/$p/stat ]] && t=$((t + $(awk '{print $14 + $15}' /proc/$p/stat))); done; echo $t; }
-  local avant après mémoire=0 mémoireTotale=0
+  local avant apres memoire=0 memoireTotale=0
   avant=$(temps)
   sleep 10
-  après=$(temps)
-  mémoire=$(awk '/VmRSS/ {print $2}' /proc/$pid/status)
+  apres=$(temps)
+  memoire=$(awk '/VmRSS/ {print $2}' /proc/$pid/status)
   for p in $(arbre); do
-    [[ -r /proc/$p/status ]] && mémoireTotale=$((mémoireTotale + $(awk '/VmRSS/ {print $2}' /proc/$p/status)))
+    [[ -r /proc/$p/status ]] && memoireTotale=$((memoireTotale + $(awk '/VmRSS/ {print $2}' /proc/$p/status)))
   done
-  echo "  processeur, table au repos pendant 10 s : $(awk -v t=$((après - avant)) -v hz="$(getconf CLK_TCK)" 'BEGIN {printf "%.1f", 100 * t / hz / 10}') % d'un cœur"
-  echo "  mémoire résidente : $((mémoire / 1024)) Mo (jeu), $((mémoireTotale / 1024)) Mo (avec ses processus)"
+  echo "  processeur, table au repos pendant 10 s : $(awk -v t=$((apres - avant)) -v hz="$(getconf CLK_TCK)" 'BEGIN {printf "%.1f", 100 * t / hz / 10}') % d'un cœur"
+  echo "  mémoire résidente : $((memoire / 1024)) Mo (jeu), $((memoireTotale / 1024)) Mo (avec ses processus)"
   wait || true
 
   # A paced sweep of four seats: the longest wait for the event loop.
@@ -48,9 +48,17 @@ mesure() { # $1: the build folder
   rm -rf "$copie"
 }
 
-echo "Avec les panneaux web ($racine/build) :"
-mesure "$racine/build"
-if [[ -x "$racine/build-sans-web/troisniveaux" ]]; then
-  echo "Sans les panneaux web ($racine/build-sans-web) :"
-  mesure "$racine/build-sans-web"
+dossiers=("$@")
+if [[ ${#dossiers[@]} -eq 0 ]]; then
+  dossiers=("$racine/build")
+  [[ -x "$racine/build-sans-web/troisniveaux" ]] && dossiers+=("$racine/build-sans-web")
 fi
+for dossier in "${dossiers[@]}"; do
+  dossier=$(cd "$dossier" && pwd)
+  if [[ ! -x "$dossier/troisniveaux" ]]; then
+    echo "$dossier : pas de jeu construit" >&2
+    exit 1
+  fi
+  echo "$dossier :"
+  mesure "$dossier"
+done

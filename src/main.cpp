@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QMessageBox>
+#include <QScreen>
 #include <QTimer>
 #include <cstdio>
 #include <cstdlib>
@@ -24,8 +25,10 @@ void Capture(FenêtreTable &fenêtre, TroisNiveaux &t, PlateformeQt &p, const QS
     fenêtre.Événement([&t] { t.NouveauJeu_MouseUp(); });
     fenêtre.Événement([&t] { t.Joue_Click(); });
     p.duréeParSiège = durée;
-    QTimer::singleShot(200, &fenêtre, [&fenêtre, fichier] {
-      const bool réussi = fenêtre.grab().save(fichier);
+    QTimer::singleShot(qEnvironmentVariableIsSet("TN_ESSAI_ECRAN") ? 3000 : 200, &fenêtre, [&fenêtre, fichier] {
+      const bool réussi = fenêtre.Capture().save(fichier);
+      if (qEnvironmentVariableIsSet("TN_ESSAI_ECRAN"))
+        fenêtre.screen()->grabWindow(0).save("/tmp/h4ecran.png");
       std::fprintf(stderr, "%s %s\n", réussi ? "Capture :" : "Capture impossible :",
                    fichier.toLocal8Bit().constData());
       QCoreApplication::exit(réussi ? 0 : 1);
@@ -45,9 +48,9 @@ int main(int argc, char *argv[]) {
   PlateformeQt plateforme;
   TroisNiveaux table(plateforme);
   FenêtreTable fenêtre(table, plateforme);
-  plateforme.pages = std::make_unique<PagesWeb>(fenêtre.Vue(table.Fenêtre.Pub0Pic),
-                                                fenêtre.Vue(table.Fenêtre.Pub1Pic),
-                                                fenêtre.Vue(table.Fenêtre.LogoFondPic));
+  plateforme.pages = std::make_unique<PagesWeb>(fenêtre.PorteurWeb(table.Fenêtre.Pub0Pic),
+                                                fenêtre.PorteurWeb(table.Fenêtre.Pub1Pic),
+                                                fenêtre.PorteurWeb(table.Fenêtre.LogoFondPic));
   if (const char *durée = std::getenv("TN_DUREE_BALAYAGE"))
     plateforme.duréeParSiège = std::atof(durée);
 
@@ -64,11 +67,24 @@ int main(int argc, char *argv[]) {
   }
   fenêtre.Synchronise();
 
-  if (std::getenv("TN_MESURES"))
-    static_cast<void>(QObject::connect(&application, &QApplication::aboutToQuit, [&plateforme] {
+  // A probe that fires every 5 ms: how late it comes during a sweep is how
+  // long a click can wait for its handler.
+  QTimer sonde;
+  QElapsedTimer depuisSonde;
+  qint64 plusLongRetard = 0;
+  if (std::getenv("TN_MESURES")) {
+    sonde.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&sonde, &QTimer::timeout, [&] {
+      if (table.BalayageEnCours && depuisSonde.isValid())
+        plusLongRetard = std::max(plusLongRetard, depuisSonde.elapsed() - 5);
+      depuisSonde.restart();
+    });
+    sonde.start(5);
+    static_cast<void>(QObject::connect(&application, &QApplication::aboutToQuit, [&] {
       std::fprintf(stderr, "plus longue attente des événements : %lld ms\n",
-                   static_cast<long long>(plateforme.plusLongSansÉvénements));
+                   static_cast<long long>(std::max(plusLongRetard, plateforme.plusLongSansÉvénements)));
     }));
+  }
   fenêtre.PremierAffichage([&depuisLeDébut] {
     if (std::getenv("TN_MESURES"))
       std::fprintf(stderr, "premier affichage : %lld ms\n",
@@ -80,7 +96,7 @@ int main(int argc, char *argv[]) {
   // For the figures script: a deal started by itself, and a session that
   // ends by itself after so many milliseconds.
   if (std::getenv("TN_JOUE_AUTO"))
-    QTimer::singleShot(500, &fenêtre, [&fenêtre, &table] {
+    QTimer::singleShot(3000, &fenêtre, [&fenêtre, &table] {
       fenêtre.Événement([&table] { table.NouveauJeu_MouseUp(); });
     });
   if (const char *délai = std::getenv("TN_QUITTE_APRES"))

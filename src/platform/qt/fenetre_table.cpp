@@ -303,6 +303,9 @@ FenêtreTable::FenêtreTable(TroisNiveaux &table, PlateformeQt &plateforme)
 }
 
 FenêtreTable::~FenêtreTable() {
+  // The carriers go first: their windows belong to the panels' containers.
+  for (QWidget *porteur : porteurs)
+    delete porteur;
   plateforme.aprèsTour = nullptr;
   plateforme.table = nullptr;
 }
@@ -503,6 +506,29 @@ void FenêtreTable::DéplaceÉtoiles() {
     fond->update(àRepeindre);
 }
 
+// The carriers are native windows, which lie over every plain widget: the
+// panels that lie over a web panel are native too, and their windows are
+// stacked in the model's order once they all exist.
+void FenêtreTable::showEvent(QShowEvent *event) {
+  QWidget::showEvent(event);
+  if (porteurs.empty())
+    return;
+  for (int n = Contrôles::NombrePanneauxHaut - 1; n >= 0; --n) {
+    QWidget *panneau = Vue(*t.Fenêtre.Empilement[n]);
+    if (panneau->testAttribute(Qt::WA_NativeWindow))
+      panneau->raise();
+  }
+  if (t.Fenêtre.NonConnectéPic.Visible)
+    Vue(t.Fenêtre.NonConnectéPic)->raise();
+  if (qEnvironmentVariableIsSet("TN_ESSAI_ECRAN")) {
+    fprintf(stderr, "fond %llx\n", (unsigned long long)fond->internalWinId());
+    for (QObject *o : fond->children()) {
+      auto *v = static_cast<VueContrôle *>(o);
+      fprintf(stderr, "PILE %s %llx vis=%d\n", v->modèle.Nom.c_str(), (unsigned long long)v->internalWinId(), v->isVisible());
+    }
+  }
+}
+
 void FenêtreTable::closeEvent(QCloseEvent *event) {
   if (!fermé && !t.SessionTerminée)
     t.Form_QueryUnload();
@@ -513,4 +539,55 @@ void FenêtreTable::closeEvent(QCloseEvent *event) {
 
 void FenêtreTable::PremierAffichage(std::function<void()> rappel) {
   static_cast<FondÉtoilé *>(fond)->premierAffichage = std::move(rappel);
+}
+
+QWidget *FenêtreTable::PorteurWeb(const Contrôle &panneau) {
+  auto &f = t.Fenêtre;
+  if (porteurs.empty())
+    for (const Contrôle *c : {&f.NonConnectéPic, &f.Pub1Pic, &f.Pub0Pic, &f.MenuSS, &f.RèglesText,
+                              &f.SSJoueur[3], &f.NomsJoueursSS})
+      Vue(*c)->setAttribute(Qt::WA_NativeWindow);
+  QWidget *vue = Vue(panneau);
+  auto *porteur = new QWidget(nullptr, Qt::FramelessWindowHint);
+  porteur->setAttribute(Qt::WA_NativeWindow);
+  porteur->setAutoFillBackground(true);
+  QPalette palette = porteur->palette();
+  palette.setColor(QPalette::Window, qEnvironmentVariableIsSet("TN_ESSAI_ECRAN") ? Qt::darkRed : Qt::black);
+  porteur->setPalette(palette);
+  porteur->setGeometry(QRect(QPoint(-10000, -10000), vue->size()));
+  porteur->show();
+  QWidget *conteneur = QWidget::createWindowContainer(porteur->windowHandle(), vue);
+  conteneur->setGeometry(vue->rect());
+  conteneur->show();
+  porteurs.push_back(porteur);
+  conteneurs.insert(porteur, conteneur);
+  return porteur;
+}
+
+// A grab draws the widgets of this window only: the carriers' pages are
+// painted over it where they show, that is in their panel minus the panels
+// that lie over it.
+QPixmap FenêtreTable::Capture() {
+  QPixmap image = grab();
+  QPainter p(&image);
+  for (QWidget *porteur : porteurs) {
+    QWidget *conteneur = porteur->parentWidget() ? nullptr : conteneurs.value(porteur);
+    if (!conteneur || !conteneur->isVisibleTo(this))
+      continue;
+    QWidget *panneau = conteneur;
+    while (panneau->parentWidget() != fond)
+      panneau = panneau->parentWidget();
+    QRegion visible(QRect(conteneur->mapTo(this, QPoint(0, 0)), conteneur->size()));
+    for (QWidget *w = conteneur->parentWidget(); w != fond; w = w->parentWidget())
+      visible &= QRect(w->mapTo(this, QPoint(0, 0)), w->size());
+    const QObjectList &pile = fond->children();
+    for (qsizetype n = pile.indexOf(panneau) + 1; n < pile.size(); ++n) {
+      auto *dessus = qobject_cast<QWidget *>(pile[n]);
+      if (dessus && dessus->isVisibleTo(this))
+        visible -= dessus->geometry();
+    }
+    p.setClipRegion(visible);
+    p.drawPixmap(conteneur->mapTo(this, QPoint(0, 0)), porteur->grab());
+  }
+  return image;
 }

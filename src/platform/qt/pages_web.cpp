@@ -71,6 +71,10 @@ void PrépareWebEngine() {
               " --no-first-run --disable-domain-reliability --disable-breakpad"
               " --no-pings --disable-features=MediaRouter,OptimizationHints";
   qputenv("QTWEBENGINE_CHROMIUM_FLAGS", drapeaux.trimmed());
+  // The pages are static: the software scene graph composes them at no cost,
+  // where a GL one emulated in software would take most of a core.
+  if (qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND"))
+    qputenv("QT_QUICK_BACKEND", "software");
   QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
 #endif
 }

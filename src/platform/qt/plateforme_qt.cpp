@@ -18,10 +18,7 @@ PlateformeQt::PlateformeQt() { depuisDernierTour.start(); }
 PlateformeQt::~PlateformeQt() = default;
 
 void PlateformeQt::TourDeBoucle() {
-  if (depuisDernierTour.isValid())
-    plusLongSansÉvénements = std::max(plusLongSansÉvénements, depuisDernierTour.elapsed());
   QCoreApplication::processEvents(QEventLoop::AllEvents);
-  depuisDernierTour.restart();
   if (aprèsTour)
     aprèsTour();
 }
@@ -31,9 +28,13 @@ void PlateformeQt::TourDeBoucle() {
 // bar fills smoothly and the human has time to lay out cards.
 void PlateformeQt::TourDeBalayage(int siège, int groupe) {
   (void)siège;
+  // Only the stretches inside a sweep count: before it the table was idle.
   if (groupe == 0)
     débutDuSiège.start();
+  else
+    plusLongSansÉvénements = std::max(plusLongSansÉvénements, depuisDernierTour.elapsed());
   TourDeBoucle();
+  depuisDernierTour.restart();
   if (duréeParSiège <= 0 || !débutDuSiège.isValid())
     return;
   const qint64 échéance = static_cast<qint64>(duréeParSiège * 1000.0 * (groupe + 1) / 1287);
