@@ -15,7 +15,14 @@ while read -r paquet; do
 done < "$racine/scripts/paquets.txt"
 if ((${#manquants[@]})); then
   sudo=""
-  [[ $(id -u) -ne 0 ]] && sudo="sudo"
+  if [[ $(id -u) -ne 0 ]]; then
+    if ! command -v sudo >/dev/null; then
+      echo "Paquets manquants : ${manquants[*]}" >&2
+      echo "Installez-les en root (apt-get install), ou lancez ce script en root." >&2
+      exit 1
+    fi
+    sudo="sudo"
+  fi
   $sudo apt-get update -qq
   DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends "${manquants[@]}"
 fi

@@ -2,7 +2,6 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QMessageBox>
-#include <QScreen>
 #include <QTimer>
 #include <cstdio>
 #include <cstdlib>
@@ -16,19 +15,37 @@
 
 namespace {
 
+// The human's cards laid out as the computer's own search of them (made in
+// DEBUTANT), with the clicks a player would make: a screenshot then shows a
+// sound layout rather than one left as dealt.
+void PoseCommeLOrdinateur(FenêtreTable &fenêtre, TroisNiveaux &t) {
+  if (t.MeilleurRangement[3] < 1)
+    return;
+  const auto &rangée = t.Rangements[t.MeilleurRangement[3]];
+  for (int place = 0; place <= 12; ++place) {
+    const uint8_t voulue = t.Mains[3][rangée[place]];
+    for (int autre = place + 1; autre <= 12; ++autre)
+      if (t.Mains[4][autre] == voulue) {
+        fenêtre.Événement([&t, place] { t.CartesJeu_MouseUp(39 + place); });
+        fenêtre.Événement([&t, autre] { t.CartesJeu_MouseUp(39 + autre); });
+        break;
+      }
+  }
+}
+
 // TN_CAPTURE=file.png plays one deal at full speed, saves the table after the
-// showdown and quits: the screenshot of the README is made this way.
+// showdown and quits: the screenshot of the README is made this way. The wait
+// before the grab lets the web panels load their pages.
 void Capture(FenêtreTable &fenêtre, TroisNiveaux &t, PlateformeQt &p, const QString &fichier) {
   QTimer::singleShot(300, &fenêtre, [&fenêtre, &t, &p, fichier] {
     const double durée = p.duréeParSiège;
     p.duréeParSiège = 0;
     fenêtre.Événement([&t] { t.NouveauJeu_MouseUp(); });
+    PoseCommeLOrdinateur(fenêtre, t);
     fenêtre.Événement([&t] { t.Joue_Click(); });
     p.duréeParSiège = durée;
-    QTimer::singleShot(qEnvironmentVariableIsSet("TN_ESSAI_ECRAN") ? 3000 : 200, &fenêtre, [&fenêtre, fichier] {
-      const bool réussi = fenêtre.Capture().save(fichier);
-      if (qEnvironmentVariableIsSet("TN_ESSAI_ECRAN"))
-        fenêtre.screen()->grabWindow(0).save("/tmp/h4ecran.png");
+    QTimer::singleShot(1500, &fenêtre, [&fenêtre, fichier] {
+      const bool réussi = fenêtre.grab().save(fichier);
       std::fprintf(stderr, "%s %s\n", réussi ? "Capture :" : "Capture impossible :",
                    fichier.toLocal8Bit().constData());
       QCoreApplication::exit(réussi ? 0 : 1);
@@ -48,9 +65,9 @@ int main(int argc, char *argv[]) {
   PlateformeQt plateforme;
   TroisNiveaux table(plateforme);
   FenêtreTable fenêtre(table, plateforme);
-  plateforme.pages = std::make_unique<PagesWeb>(fenêtre.PorteurWeb(table.Fenêtre.Pub0Pic),
-                                                fenêtre.PorteurWeb(table.Fenêtre.Pub1Pic),
-                                                fenêtre.PorteurWeb(table.Fenêtre.LogoFondPic));
+  plateforme.pages = std::make_unique<PagesWeb>(fenêtre.Vue(table.Fenêtre.Pub0Pic),
+                                                fenêtre.Vue(table.Fenêtre.Pub1Pic),
+                                                fenêtre.Vue(table.Fenêtre.LogoFondPic));
   if (const char *durée = std::getenv("TN_DUREE_BALAYAGE"))
     plateforme.duréeParSiège = std::atof(durée);
 
@@ -81,8 +98,9 @@ int main(int argc, char *argv[]) {
     });
     sonde.start(5);
     static_cast<void>(QObject::connect(&application, &QApplication::aboutToQuit, [&] {
-      std::fprintf(stderr, "plus longue attente des événements : %lld ms\n",
-                   static_cast<long long>(std::max(plusLongRetard, plateforme.plusLongSansÉvénements)));
+      std::fprintf(
+          stderr, "plus longue attente des événements : %lld ms\n",
+          static_cast<long long>(std::max(plusLongRetard, plateforme.plusLongSansÉvénements)));
     }));
   }
   fenêtre.PremierAffichage([&depuisLeDébut] {

@@ -1,12 +1,13 @@
 // `troisniveaux-analyse donne`: one deal of a Tirage file played through the
 // game's own handlers, as a replay, in a session of its own.
+#include <stdlib.h>
+
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
 #include <optional>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -32,26 +33,37 @@ const char *const AideDonne =
     "                     cartes écrites comme pour la commande main\n"
     "  --json             une seule ligne JSON\n";
 
-// A temporary folder for the session, removed at the end.
+// A folder of its own for the session, removed at the end; the current
+// folder, which the session moves into, is given back.
 class Dossier {
 public:
   Dossier() {
-    std::random_device hasard;
-    chemin = std::filesystem::temp_directory_path() /
-             ("troisniveaux-donne-" + std::to_string(hasard()) + std::to_string(hasard()));
-    std::filesystem::create_directories(chemin);
+    std::error_code e;
+    départ = std::filesystem::current_path(e);
+    std::filesystem::path base = std::filesystem::temp_directory_path(e);
+    if (e)
+      base = "/tmp";
+    std::string modèle = (base / "troisniveaux-donne-XXXXXX").string();
+    if (mkdtemp(modèle.data()) != nullptr)
+      chemin = modèle;
   }
   ~Dossier() {
     std::error_code e;
-    std::filesystem::current_path(std::filesystem::temp_directory_path(), e);
-    std::filesystem::remove_all(chemin, e);
+    if (!départ.empty())
+      std::filesystem::current_path(départ, e);
+    if (!chemin.empty())
+      std::filesystem::remove_all(chemin, e);
   }
   Dossier(const Dossier &) = delete;
   Dossier &operator=(const Dossier &) = delete;
-  void Écrit(const std::string &nom, const std::string &octets) const {
-    std::ofstream(chemin / nom, std::ios::binary) << octets;
+  bool Écrit(const std::string &nom, const std::string &octets) const {
+    std::ofstream fichier(chemin / nom, std::ios::binary);
+    return static_cast<bool>(fichier << octets);
   }
   std::filesystem::path chemin;
+
+private:
+  std::filesystem::path départ;
 };
 
 std::string Chaîne(const std::string &s) {
@@ -83,17 +95,22 @@ std::string Table(const TroisNiveaux &t) {
          return "{\"Caption\": " + Chaîne(f.EnchèreLabel[i].Caption) +
                 ", \"Visible\": " + (f.EnchèreLabel[i].Visible ? "true" : "false") + "}";
        });
-  s += ", \"CartesJeu\": " + Liste(52, [&](int i) { return std::to_string(f.CartesJeu[i].Picture); });
+  s += ", \"CartesJeu\": " +
+       Liste(52, [&](int i) { return std::to_string(f.CartesJeu[i].Picture); });
   return s;
 }
 
 // The table after the showdown; the solution view's fields follow when asked.
 std::string Json(const TroisNiveaux &t) {
   std::string s = "{\"Mode\": " + std::to_string(t.Mode);
-  s += ", \"MeilleurRangement\": " + Liste(4, [&](int i) { return std::to_string(t.MeilleurRangement[i]); });
-  s += ", \"ValeursNiveau1\": " + Liste(5, [&](int i) { return texte::Nombre(t.ValeursNiveau1[i]); });
-  s += ", \"ValeursNiveau2\": " + Liste(5, [&](int i) { return texte::Nombre(t.ValeursNiveau2[i]); });
-  s += ", \"ValeursNiveau3\": " + Liste(5, [&](int i) { return texte::Nombre(t.ValeursNiveau3[i]); });
+  s += ", \"MeilleurRangement\": " +
+       Liste(4, [&](int i) { return std::to_string(t.MeilleurRangement[i]); });
+  s += ", \"ValeursNiveau1\": " +
+       Liste(5, [&](int i) { return texte::Nombre(t.ValeursNiveau1[i]); });
+  s += ", \"ValeursNiveau2\": " +
+       Liste(5, [&](int i) { return texte::Nombre(t.ValeursNiveau2[i]); });
+  s += ", \"ValeursNiveau3\": " +
+       Liste(5, [&](int i) { return texte::Nombre(t.ValeursNiveau3[i]); });
   return s + ", " + Table(t);
 }
 
@@ -104,12 +121,21 @@ void Lisible(std::ostream &o, const TroisNiveaux &t) {
   o << "Mode " << (t.Mode ? "DEBUTANT" : "EXPERT") << "\n";
   for (int s = 0; s <= 3; ++s) {
     o << "\n" << NomsDesSièges[s] << " — " << f.JoueursLabel[s].Caption;
-    if (s < 3 || t.Mode == 1)
+    if (s < 3)
       o << ", rangement " << t.MeilleurRangement[s];
+    else if (t.Mode == 1)
+      o << ", solution de l'ordinateur : rangement " << t.MeilleurRangement[3];
     o << "\n";
     if (!f.ExtraLabel[s].Caption.empty())
       o << "  " << f.ExtraLabel[s].Caption << "\n";
-    const double valeurs[3] = {t.ValeursNiveau1[s], t.ValeursNiveau2[s], t.ValeursNiveau3[s]};
+    // The human's own layout sits at index 4 while the real showdown is shown.
+    const int index = s == 3 && f.VoirOrdi[0].Visible ? 4 : s;
+    const double valeurs[3] = {t.ValeursNiveau1[index], t.ValeursNiveau2[index],
+                               t.ValeursNiveau3[index]};
+    o << "  paiements contre les sièges";
+    for (int j = 0; j <= 2; ++j)
+      o << (j ? ", " : " ") << (j < s ? j : j + 1);
+    o << "\n";
     for (int n = 0; n <= 2; ++n) {
       o << "  NIVEAU " << n + 1 << " :";
       const int première = n == 0 ? 0 : n == 1 ? 5 : 10, nombre = n == 2 ? 3 : 5;
@@ -117,7 +143,8 @@ void Lisible(std::ostream &o, const TroisNiveaux &t) {
         o << " " << texte::Carte(f.CartesJeu[13 * s + k].Picture);
       const Contrôle &classe = f.EnchèreLabel[3 * s + n];
       o << "  " << (classe.Visible ? classe.Caption : "-") << " ("
-        << (n == 2 ? texte::Nombre(static_cast<float>(valeurs[n])) : texte::Nombre(valeurs[n])) << ")";
+        << (n == 2 ? texte::Nombre(static_cast<float>(valeurs[n])) : texte::Nombre(valeurs[n]))
+        << ")";
       o << "  paiements :";
       for (int j = 0; j <= 2; ++j)
         o << " " << f.LabelPaie[9 * s + 3 * n + j].Caption;
@@ -127,53 +154,86 @@ void Lisible(std::ostream &o, const TroisNiveaux &t) {
   }
 }
 
-} // namespace
-
-int CommandeDonne(const std::vector<std::string> &arguments) {
-  std::optional<std::string> fichier;
+struct Options {
+  std::string fichier;
   uint8_t mode = 1;
   bool json = false;
   std::optional<std::vector<uint8_t>> humain;
+};
+
+// The exit status when the command ends here (help or a bad argument), or
+// nothing when it goes on.
+std::optional<int> LitArguments(const std::vector<std::string> &arguments, Options &o) {
+  bool avecTirage = false;
   for (std::size_t i = 0; i < arguments.size(); ++i) {
     const std::string &a = arguments[i];
     if (a == "--help" || a == "-h") {
       std::cout << AideDonne;
       return 0;
     } else if (a == "--json") {
-      json = true;
+      o.json = true;
     } else if (a == "--expert") {
-      mode = 0;
+      o.mode = 0;
     } else if (a == "--debutant") {
-      mode = 1;
+      o.mode = 1;
     } else if (a == "--tirage") {
       if (++i == arguments.size()) {
         std::cerr << "--tirage attend un nom de fichier.\n";
         return 2;
       }
-      fichier = arguments[i];
+      o.fichier = arguments[i];
+      avecTirage = true;
     } else if (a == "--humain") {
-      humain.emplace();
+      o.humain.emplace();
       while (i + 1 < arguments.size() && arguments[i + 1].rfind("--", 0) != 0) {
         const auto code = texte::LitCarte(arguments[++i]);
         if (!code) {
           std::cerr << "Carte inconnue : « " << arguments[i] << " ».\n";
           return 2;
         }
-        humain->push_back(*code);
+        o.humain->push_back(*code);
       }
     } else {
       std::cerr << "Argument inconnu : « " << a << " ». Voir troisniveaux-analyse donne --help.\n";
       return 2;
     }
   }
-  if (!fichier) {
-    std::cerr << "Il faut un fichier de donne : --tirage FICHIER. Voir troisniveaux-analyse donne --help.\n";
+  if (!avecTirage) {
+    std::cerr << "Il faut un fichier de donne : --tirage FICHIER. Voir troisniveaux-analyse donne "
+                 "--help.\n";
     return 2;
   }
-  std::ifstream entrée(*fichier, std::ios::binary);
+  return std::nullopt;
+}
+
+bool MêmesCartes(const uint8_t (&main)[13], std::vector<uint8_t> cartes) {
+  std::vector<uint8_t> donnée(main, main + 13);
+  std::sort(donnée.begin(), donnée.end());
+  std::sort(cartes.begin(), cartes.end());
+  return donnée == cartes;
+}
+
+bool CinquanteDeuxCartes(const TroisNiveaux &t) {
+  bool vue[52] = {};
+  for (int s = 0; s <= 3; ++s)
+    for (uint8_t c : t.Mains[s]) {
+      if (c > 51 || vue[c])
+        return false;
+      vue[c] = true;
+    }
+  return true;
+}
+
+} // namespace
+
+int CommandeDonne(const std::vector<std::string> &arguments) {
+  Options options;
+  if (const auto statut = LitArguments(arguments, options))
+    return *statut;
+  std::ifstream entrée(options.fichier, std::ios::binary);
   std::error_code e;
-  if (!entrée || !std::filesystem::is_regular_file(*fichier, e)) {
-    std::cerr << "Le fichier « " << *fichier << " » ne peut pas être lu.\n";
+  if (!entrée || !std::filesystem::is_regular_file(options.fichier, e)) {
+    std::cerr << "Le fichier « " << options.fichier << " » ne peut pas être lu.\n";
     return 2;
   }
   std::string octets;
@@ -182,9 +242,13 @@ int CommandeDonne(const std::vector<std::string> &arguments) {
   octets.resize(static_cast<std::size_t>(entrée.gcount()));
 
   Dossier dossier;
-  dossier.Écrit("Noms", "\"MicroProc\"\r\n\"GigaOctets\"\r\n\"M\xE9gaBytes\"\r\n\"Bibi\"\r\n");
-  dossier.Écrit("Scores", "0\r\n0\r\n0\r\n0\r\n");
-  dossier.Écrit("Tirage", octets);
+  if (dossier.chemin.empty() ||
+      !dossier.Écrit("Noms",
+                     "\"MicroProc\"\r\n\"GigaOctets\"\r\n\"M\xE9gaBytes\"\r\n\"Bibi\"\r\n") ||
+      !dossier.Écrit("Scores", "0\r\n0\r\n0\r\n0\r\n") || !dossier.Écrit("Tirage", octets)) {
+    std::cerr << "Impossible de préparer un dossier temporaire pour la séance.\n";
+    return 1;
+  }
   PlateformeSansFenêtre plateforme(dossier.chemin.string());
   TroisNiveaux t(plateforme);
   t.Form_Load();
@@ -192,47 +256,47 @@ int CommandeDonne(const std::vector<std::string> &arguments) {
     std::cerr << t.ErreurDémarrage << "\n";
     return 1;
   }
-  if (t.Mode != mode)
+  if (t.Mode != options.mode)
     t.Mode_MouseUp();
 
-  if (humain) {
-    t.LitTirage();
-    std::vector<uint8_t> dealt(t.Mains[3], t.Mains[3] + 13), voulu = *humain;
-    std::sort(dealt.begin(), dealt.end());
-    std::sort(voulu.begin(), voulu.end());
-    if (humain->size() != 13 || dealt != voulu) {
-      std::cerr << "--humain doit donner les 13 cartes du siège 3 de ce tirage, chacune une fois.\n";
+  // The cards as the replay will read them.
+  t.LitTirage();
+  if (!CinquanteDeuxCartes(t))
+    std::cerr
+        << "Attention : « " << options.fichier
+        << " » ne donne pas 52 cartes différentes ; la donne est jouée telle que le jeu la lit.\n";
+  if (const auto &humain = options.humain) {
+    if (humain->size() != 13 || !MêmesCartes(t.Mains[3], *humain)) {
+      std::cerr
+          << "--humain doit donner les 13 cartes du siège 3 de ce tirage, chacune une fois.\n";
       return 2;
     }
     // Laid out by the human's own clicks, at the sweep's first turn.
     plateforme.script = [&t, &humain](int tour) {
       if (tour != 1)
         return;
-      for (int k = 0; k <= 12; ++k) {
-        int j = k;
-        while (j <= 12 && t.Mains[4][j] != (*humain)[k])
-          ++j;
-        if (j <= 12 && j != k) {
-          t.CartesJeu_MouseUp(39 + k);
-          t.CartesJeu_MouseUp(39 + j);
-        }
-      }
+      for (int k = 0; k <= 12; ++k)
+        for (int j = k + 1; j <= 12; ++j)
+          if (t.Mains[4][j] == (*humain)[k]) {
+            t.CartesJeu_MouseUp(39 + k);
+            t.CartesJeu_MouseUp(39 + j);
+          }
     };
   }
   t.Rejoue_MouseUp();
   plateforme.script = nullptr;
 
-  if (json) {
-    std::string ligne = Json(t);
-    if (t.Mode == 1 && t.Fenêtre.VoirOrdi[0].Visible) {
-      t.VoirOrdi_Click(0);
-      ligne += ", \"solution\": {" + Table(t) + "}";
-      t.VoirOrdi_Click(1);
-      ligne += ", \"retour\": {" + Table(t) + "}";
-    }
-    std::cout << ligne << "}\n";
-  } else {
+  if (!options.json) {
     Lisible(std::cout, t);
+    return 0;
   }
+  std::string ligne = Json(t);
+  if (t.Mode == 1 && t.Fenêtre.VoirOrdi[0].Visible) {
+    t.VoirOrdi_Click(0);
+    ligne += ", \"solution\": {" + Table(t) + "}";
+    t.VoirOrdi_Click(1);
+    ligne += ", \"retour\": {" + Table(t) + "}";
+  }
+  std::cout << ligne << "}\n";
   return 0;
 }

@@ -59,11 +59,13 @@ void TroisNiveaux::Fin_MouseUp() {
 
 void TroisNiveaux::Form_QueryUnload() { Fin_MouseUp(); }
 
+// Whole parts are taken before the values become floats: a draw just under
+// 1 would otherwise round up to the window's edge.
 void TroisNiveaux::PlaceLesÉtoiles() {
   for (int i = 1; i <= 50; ++i) {
-    EtoileX[i] = std::floor(static_cast<float>(Générateur.Tire() * Fenêtre.Form.Width));
-    EtoileY[i] = std::floor(static_cast<float>(Générateur.Tire() * Fenêtre.Form.Height));
-    EtoileVitesse[i] = 500 - std::floor(static_cast<float>(Générateur.Tire() * 499));
+    EtoileX[i] = static_cast<float>(std::floor(Générateur.Tire() * Fenêtre.Form.Width));
+    EtoileY[i] = static_cast<float>(std::floor(Générateur.Tire() * Fenêtre.Form.Height));
+    EtoileVitesse[i] = static_cast<float>(500 - std::floor(Générateur.Tire() * 499));
     EtoileRayon[i] = static_cast<int16_t>(std::nearbyint(Générateur.Tire() * 16));
   }
 }

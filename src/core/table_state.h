@@ -102,6 +102,9 @@ public:
   // Where each arrangement's levels fall among the seat's 5- and 3-card sets,
   // derived from Rangements at the first sweep (computer/).
   std::shared_ptr<const IndexBalayage> IndexDuBalayage;
+  // Data files whose last write failed and was told to the player: told once,
+  // until a write of that file works again.
+  std::vector<std::string> FichiersNonÉcrits;
 
   // ---- Session (core/) ----------------------------------------------------
   void Form_Load();

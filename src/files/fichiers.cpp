@@ -1,8 +1,10 @@
 #include <QSaveFile>
 #include <algorithm>
+#include <cerrno>
 #include <cmath>
 #include <filesystem>
 #include <limits>
+#include <unistd.h>
 
 #include "core/table_state.h"
 #include "files/format.h"
@@ -21,49 +23,60 @@ std::string Désignation(const std::string &nom) {
   return "Le fichier « " + nom + " » (" + CheminComplet(nom) + ")";
 }
 
+const std::string FinDuMessage = " La partie ne peut pas commencer.";
+
 // Reads a start-up file; on failure, says why in `erreur`.
 std::optional<std::vector<std::string>> LignesAuDémarrage(const std::string &nom,
                                                           std::string &erreur) {
   std::error_code e;
   if (!std::filesystem::exists(nom, e)) {
-    erreur = Désignation(nom) + " est introuvable.";
+    erreur = Désignation(nom) + " est introuvable." + FinDuMessage;
     return std::nullopt;
   }
   if (!std::filesystem::is_regular_file(nom, e)) {
-    erreur = Désignation(nom) + " n'est pas un fichier ordinaire.";
+    erreur = Désignation(nom) + " n'est pas un fichier ordinaire." + FinDuMessage;
     return std::nullopt;
   }
-  const auto octets = format::LitOctets(nom, TailleMaximale);
-  if (!octets) {
-    erreur = Désignation(nom) + " ne peut pas être lu (droits insuffisants ?).";
-    return std::nullopt;
-  }
-  return format::Lignes(*octets);
+  auto lignes = format::LitLignes(nom, TailleMaximale);
+  if (!lignes)
+    erreur = Désignation(nom) + " ne peut pas être lu (droits insuffisants ?)." + FinDuMessage;
+  return lignes;
 }
 
-const char *const Nombres[] = {"aucun", "un seul", "seulement deux", "seulement trois"};
+// "ne contient aucun nom", "contient seulement deux scores"...
+std::string TropPeu(std::size_t lus, const char *singulier, const char *pluriel) {
+  switch (lus) {
+  case 0:
+    return std::string(" ne contient aucun ") + singulier + ".";
+  case 1:
+    return std::string(" contient un seul ") + singulier + " au lieu de quatre.";
+  case 2:
+    return std::string(" contient seulement deux ") + pluriel + " au lieu de quatre.";
+  default:
+    return std::string(" contient seulement trois ") + pluriel + " au lieu de quatre.";
+  }
+}
 
-std::string FinDuMessage() { return " La partie ne peut pas commencer."; }
+std::string LigneFautive(const std::string &nom, int ligne, const char *défaut) {
+  return Désignation(nom) + " : la ligne " + std::to_string(ligne) + " " + défaut + "." +
+         FinDuMessage;
+}
 
 } // namespace
 
 bool TroisNiveaux::LitNoms() {
   const auto lignes = LignesAuDémarrage("Noms", ErreurDémarrage);
-  if (!lignes) {
-    ErreurDémarrage += FinDuMessage();
+  if (!lignes)
+    return false;
+  if (lignes->size() < 4) {
+    ErreurDémarrage = Désignation("Noms") + TropPeu(lignes->size(), "nom", "noms") + FinDuMessage;
     return false;
   }
   std::string noms[4];
   for (int siège = 0; siège <= 3; ++siège) {
-    if (static_cast<int>(lignes->size()) <= siège) {
-      ErreurDémarrage = Désignation("Noms") + " ne contient " + Nombres[siège] +
-                        (siège < 2 ? " nom" : " noms") + " au lieu de quatre." + FinDuMessage();
-      return false;
-    }
     const auto nom = format::Chaîne((*lignes)[siège]);
     if (!nom) {
-      ErreurDémarrage = Désignation("Noms") + " : la ligne " + std::to_string(siège + 1) +
-                        " n'est pas un nom entre guillemets." + FinDuMessage();
+      ErreurDémarrage = LigneFautive("Noms", siège + 1, "n'est pas un nom entre guillemets");
       return false;
     }
     noms[siège] = *nom;
@@ -77,23 +90,23 @@ bool TroisNiveaux::LitNoms() {
 
 bool TroisNiveaux::LitScores() {
   const auto lignes = LignesAuDémarrage("Scores", ErreurDémarrage);
-  if (!lignes) {
-    ErreurDémarrage += FinDuMessage();
+  if (!lignes)
+    return false;
+  if (lignes->size() < 4) {
+    ErreurDémarrage =
+        Désignation("Scores") + TropPeu(lignes->size(), "score", "scores") + FinDuMessage;
     return false;
   }
   int32_t lus[4] = {};
   for (int siège = 0; siège <= 3; ++siège) {
-    if (static_cast<int>(lignes->size()) <= siège) {
-      ErreurDémarrage = Désignation("Scores") + " ne contient " + Nombres[siège] +
-                        (siège < 2 ? " score" : " scores") + " au lieu de quatre." +
-                        FinDuMessage();
+    const auto valeur = format::Entier((*lignes)[siège]);
+    if (!valeur) {
+      ErreurDémarrage = LigneFautive("Scores", siège + 1, "n'est pas un nombre entier");
       return false;
     }
-    const auto valeur = format::Entier((*lignes)[siège]);
-    if (!valeur || *valeur < std::numeric_limits<int32_t>::min() ||
+    if (*valeur < std::numeric_limits<int32_t>::min() ||
         *valeur > std::numeric_limits<int32_t>::max()) {
-      ErreurDémarrage = Désignation("Scores") + " : la ligne " + std::to_string(siège + 1) +
-                        " n'est pas un nombre entier." + FinDuMessage();
+      ErreurDémarrage = LigneFautive("Scores", siège + 1, "contient un nombre trop grand");
       return false;
     }
     lus[siège] = static_cast<int32_t>(*valeur);
@@ -108,36 +121,55 @@ bool TroisNiveaux::LitScores() {
 
 namespace {
 
-std::string Raison(QFileDevice::FileError erreur) {
-  switch (erreur) {
-  case QFileDevice::ResourceError:
-    return "plus de place sur le disque";
-  case QFileDevice::PermissionsError:
-  case QFileDevice::OpenError:
-    return "le dossier est protégé en écriture";
-  case QFileDevice::WriteError:
-    return "l'écriture a échoué (disque plein ?)";
-  default:
-    return "erreur du système de fichiers";
-  }
+// Why a file could not be replaced, in the player's words. The system's own
+// error code is gone by the time Qt reports, so the folder is asked again.
+std::string Raison(const std::string &nom, QFileDevice::FileError erreur, int errnoÉcriture) {
+  std::error_code e;
+  if (std::filesystem::is_directory(nom, e))
+    return "un dossier porte ce nom";
+  if (erreur == QFileDevice::ResourceError || errnoÉcriture == ENOSPC)
+    return "le disque est plein";
+  if (errnoÉcriture == EFBIG || errnoÉcriture == EDQUOT)
+    return "la taille permise aux fichiers est dépassée";
+  if (access(".", W_OK) != 0)
+    return errno == EROFS ? "le disque est en lecture seule" : "le dossier est protégé en écriture";
+  if (access(nom.c_str(), F_OK) == 0 && access(nom.c_str(), W_OK) != 0)
+    return "le fichier est protégé en écriture";
+  return "le système a refusé l'écriture";
 }
 
 // Replaces the file whole: its old content stays until the new one is on
-// disk, so a full disk or a crash never leaves it cut short.
-void Écrit(Plateforme &plateforme, const std::string &nom, const std::string &octets) {
+// disk, so a full disk or a crash never leaves it cut short. A failure is
+// told once; the player hears of that file again only after a write of it
+// has worked.
+void Écrit(TroisNiveaux &t, const std::string &nom, const std::string &octets) {
   QSaveFile fichier(QString::fromStdString(nom));
-  bool réussi = fichier.open(QIODevice::WriteOnly);
-  if (réussi)
-    réussi = fichier.write(octets.data(), static_cast<qint64>(octets.size())) ==
-             static_cast<qint64>(octets.size());
-  if (réussi)
-    réussi = fichier.commit();
-  else
-    fichier.cancelWriting();
+  errno = 0;
+  // The flush comes before the commit: a commit whose own flush fails still
+  // renames the empty temporary file over the old one.
+  const bool réussi =
+      fichier.open(QIODevice::WriteOnly) &&
+      fichier.write(octets.data(), static_cast<qint64>(octets.size())) ==
+          static_cast<qint64>(octets.size()) &&
+      fichier.flush() && fichier.commit();
+  const int errnoÉcriture = errno;
   if (!réussi)
-    plateforme.SignaleErreur("Impossible d'enregistrer le fichier « " + nom + " » (" +
-                             CheminComplet(nom) + ") : " + Raison(fichier.error()) +
-                             ". La partie continue ; l'ancien fichier est conservé.");
+    fichier.cancelWriting();
+
+  auto &signalés = t.FichiersNonÉcrits;
+  const auto signalé = std::find(signalés.begin(), signalés.end(), nom);
+  if (réussi) {
+    if (signalé != signalés.end())
+      signalés.erase(signalé);
+    return;
+  }
+  if (signalé != signalés.end())
+    return;
+  signalés.push_back(nom);
+  t.plateforme.SignaleErreur("Impossible d'enregistrer le fichier « " + nom + " » (" +
+                           CheminComplet(nom) + ") : " +
+                           Raison(nom, fichier.error(), errnoÉcriture) +
+                           ". La partie continue ; l'ancien fichier est conservé.");
 }
 
 } // namespace
@@ -146,35 +178,36 @@ void TroisNiveaux::ÉcritNoms(const std::string (&noms)[4]) {
   std::string octets;
   for (int siège = 0; siège <= 3; ++siège)
     octets += format::LigneChaîne(noms[siège]);
-  Écrit(plateforme, "Noms", octets);
+  Écrit(*this, "Noms", octets);
 }
 
 void TroisNiveaux::ÉcritScores() {
   std::string octets;
   for (int siège = 0; siège <= 3; ++siège)
     octets += format::LigneEntier(Scores[siège]);
-  Écrit(plateforme, "Scores", octets);
+  Écrit(*this, "Scores", octets);
 }
 
-// The time of the last deal of the mode that stands now; every failure gives 0.
+// The time of the last deal of the mode that stands now. Every failure
+// counts as an empty text, hence 0; a value the field cannot hold leaves the
+// field as it was.
 void TroisNiveaux::LitTempsDuMode() {
   const char *nom = Mode == 0 ? "Temps1" : "Temps2";
   std::string texte;
   std::error_code e;
   if (std::filesystem::is_regular_file(nom, e))
-    if (const auto octets = format::LitOctets(nom, TailleMaximale)) {
-      const auto lignes = format::Lignes(*octets);
-      if (!lignes.empty())
-        texte = lignes.front().substr(0, lignes.front().find(','));
-    }
+    if (const auto lignes = format::LitLignes(nom, TailleMaximale); lignes && !lignes->empty())
+      texte = lignes->front().substr(0, lignes->front().find(','));
   std::size_t début = 0;
   while (début < texte.size() && (texte[début] == ' ' || texte[début] == '\t'))
     ++début;
   const double valeur = format::NombreEnTête(std::string_view(texte).substr(début));
+  if (!std::isfinite(valeur))
+    return;
   if (Mode == 0) {
     TempsExpert = valeur;
   } else {
-    const double arrondi = std::nearbyint(valeur);
+    const double arrondi = std::nearbyint(valeur); // halves to even
     if (arrondi >= std::numeric_limits<int16_t>::min() &&
         arrondi <= std::numeric_limits<int16_t>::max())
       TempsDébutant = static_cast<int16_t>(arrondi);
@@ -182,7 +215,7 @@ void TroisNiveaux::LitTempsDuMode() {
 }
 
 void TroisNiveaux::ÉcritTempsDuMode() {
-  Écrit(plateforme, Mode != 0 ? "Temps2" : "Temps1", format::LigneEntier(TempsÉcoulé));
+  Écrit(*this, Mode != 0 ? "Temps2" : "Temps1", format::LigneEntier(TempsÉcoulé));
 }
 
 void TroisNiveaux::ÉcritTirage() {
@@ -190,33 +223,32 @@ void TroisNiveaux::ÉcritTirage() {
   for (int siège = 0; siège <= 3; ++siège)
     for (int k = 0; k <= 12; ++k)
       octets += format::LigneEntier(Mains[siège][k]);
-  Écrit(plateforme, "Tirage", octets);
+  Écrit(*this, "Tirage", octets);
 }
 
-// A replay takes the file as it finds it: an entry that can't be read leaves
-// the last value standing, and an entry that fits no card slot is passed over,
-// as every failing statement of a replay is.
+// A replay takes the file as it finds it. Entries are read one a line into a
+// byte that starts at 0: a line that holds no whole number from 0 to 255, or
+// no line at all, is a failed read and the byte keeps its last value. Every
+// place then gets the byte; a code with no picture leaves its slot as it is.
 void TroisNiveaux::LitTirage() {
   std::vector<std::string> lignes;
   std::error_code e;
   if (std::filesystem::is_regular_file("Tirage", e))
-    if (const auto octets = format::LitOctets("Tirage", TailleMaximale))
-      lignes = format::Lignes(*octets);
-  int64_t c = 0;
+    if (auto lues = format::LitLignes("Tirage", TailleMaximale))
+      lignes = std::move(*lues);
+  uint8_t c = 0;
   std::size_t suivante = 0;
   for (int siège = 0; siège <= 3; ++siège) {
     for (int k = 0; k <= 12; ++k) {
       if (suivante < lignes.size())
-        if (const auto valeur = format::Entier(lignes[suivante++]))
-          c = *valeur;
-      const bool tientDansUnOctet = c >= 0 && c <= 255;
+        if (const auto valeur = format::Entier(lignes[suivante++]); valeur && *valeur >= 0 &&
+                                                                    *valeur <= 255)
+          c = static_cast<uint8_t>(*valeur);
       if (siège == 3) {
-        MontreCarte(39 + k, static_cast<int>(std::clamp<int64_t>(c, -1, 255)));
-        if (tientDansUnOctet)
-          Mains[4][k] = static_cast<uint8_t>(c);
+        MontreCarte(39 + k, c);
+        Mains[4][k] = c;
       }
-      if (tientDansUnOctet)
-        Mains[siège][k] = static_cast<uint8_t>(c);
+      Mains[siège][k] = c;
     }
   }
 }

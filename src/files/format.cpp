@@ -142,25 +142,34 @@ double NombreEnTête(std::string_view texte) {
   return std::strtod(std::string(texte.substr(0, n)).c_str(), nullptr);
 }
 
-std::optional<std::string> LitOctets(const std::string &nom, std::size_t limite) {
+std::optional<std::vector<std::string>> LitLignes(const std::string &nom, std::size_t limite) {
   std::ifstream fichier(nom, std::ios::binary);
   if (!fichier)
     return std::nullopt;
-  std::string octets(limite, '\0');
-  fichier.read(octets.data(), static_cast<std::streamsize>(limite));
+  std::string octets(limite + 1, '\0');
+  fichier.read(octets.data(), static_cast<std::streamsize>(limite + 1));
   if (fichier.bad())
     return std::nullopt;
   octets.resize(static_cast<std::size_t>(fichier.gcount()));
-  return octets;
+  if (octets.size() <= limite)
+    return Lignes(octets);
+  // The file goes on past the limit: the line the limit cuts is left out, so
+  // that no number is read with its last digits missing.
+  octets.resize(limite);
+  const std::size_t fin = octets.rfind('\n');
+  octets.resize(fin == std::string::npos ? 0 : fin + 1);
+  return Lignes(octets);
 }
 
 std::string LigneEntier(int64_t valeur) { return std::to_string(valeur) + "\r\n"; }
 
 std::string LigneChaîne(std::string_view utf8) {
+  // The format escapes nothing: a quote or a line break inside a name would
+  // cut it short or shift every line after it.
   std::string octets = VersWindows1252(utf8);
   for (char &c : octets)
-    if (c == '"')
-      c = '\'';
+    if (c == '"' || static_cast<unsigned char>(c) < 0x20)
+      c = '?';
   return "\"" + octets + "\"\r\n";
 }
 

@@ -27,8 +27,9 @@ std::optional<std::string> Chaîne(std::string_view ligne);
 // The leading decimal number of a text, 0 when it begins with anything else.
 double NombreEnTête(std::string_view texte);
 
-// Reads at most `limite` bytes of a file; nullopt when it cannot be opened.
-std::optional<std::string> LitOctets(const std::string &nom, std::size_t limite);
+// The lines within the first `limite` bytes of a file; nullopt when it
+// cannot be opened or read.
+std::optional<std::vector<std::string>> LitLignes(const std::string &nom, std::size_t limite);
 
 // One line written as the files want it.
 std::string LigneEntier(int64_t valeur);

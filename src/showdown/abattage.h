@@ -21,7 +21,9 @@ constexpr int ValeurToutFlush = 2300;
 constexpr int ValeurToutQuinte = 2200;
 
 // The opponent at position 0..2 of a seat's row, the others in seat order.
-inline int Adversaire(int siège, int position) { return position < siège ? position : position + 1; }
+inline int Adversaire(int siège, int position) {
+  return position < siège ? position : position + 1;
+}
 
 // The values of the deal for this run, with the computer's solution taken
 // over for a human who missed a special hand, and the human's own layout

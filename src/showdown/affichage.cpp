@@ -6,34 +6,32 @@ namespace abattage {
 
 namespace {
 
-// The class a level's value names. Above the ordinary classes there is none,
-// and the label keeps the text it has: a special hand shows in ExtraLabel.
-const char *ClasseCinqCartes(double v) {
-  if (v < 100) return "RIEN";
-  if (v < 200) return "1 PAIRE";
-  if (v < 350) return "2 PAIRES";
-  if (v < 380) return "BRELAN";
-  if (v < 500) return "QUINTE";
-  if (v < 600) return "FLUSH";
-  if (v < 1000) return "FULL";
-  if (v < 1500) return "CARRE";
-  if (v < ValeurToutQuinte) return "QF";
-  return nullptr;
-}
-
+// The class a level's value names, by the first limit that it stays below.
+// Above the ordinary classes there is none, and the label keeps the text it
+// has: a special hand shows in ExtraLabel.
+struct Classe {
+  double limite;
+  const char *texte;
+};
+constexpr Classe ClassesCinqCartes[] = {
+    {100, "RIEN"},  {200, "1 PAIRE"}, {350, "2 PAIRES"}, {380, "BRELAN"},         {500, "QUINTE"},
+    {600, "FLUSH"}, {1000, "FULL"},   {1500, "CARRE"},   {ValeurToutQuinte, "QF"}};
 // Level 3 has no two pairs, and a three-card straight or flush counts
 // nowhere but in the special hands.
-const char *ClasseTroisCartes(float v) {
-  if (v < 100) return "RIEN";
-  if (v < 350) return "1 PAIRE";
-  if (v < 380) return "BRELAN";
+constexpr Classe ClassesTroisCartes[] = {{100, "RIEN"}, {350, "1 PAIRE"}, {380, "BRELAN"}};
+
+template <std::size_t N> const char *ClasseDe(const Classe (&classes)[N], double valeur) {
+  for (const Classe &c : classes)
+    if (valeur < c.limite)
+      return c.texte;
   return nullptr;
 }
 
 void NommeNiveaux(TroisNiveaux &t, const ValeursJoueurs &v, int s) {
   Contrôle *labels = &t.Fenêtre.EnchèreLabel[3 * s];
-  const char *classes[3] = {ClasseCinqCartes(v.ValeurJoueur1[s]), ClasseCinqCartes(v.ValeurJoueur2[s]),
-                            ClasseTroisCartes(v.ValeurJoueur3[s])};
+  const char *classes[3] = {ClasseDe(ClassesCinqCartes, v.ValeurJoueur1[s]),
+                            ClasseDe(ClassesCinqCartes, v.ValeurJoueur2[s]),
+                            ClasseDe(ClassesTroisCartes, v.ValeurJoueur3[s])};
   for (int n = 0; n <= 2; ++n)
     if (classes[n])
       labels[n].Caption = classes[n];
@@ -77,7 +75,8 @@ public:
   void AsDevant(int r, int siège) {
     const uint8_t *rangs = RangsMontrés[r];
     for (int p : {0, 5})
-      if (rangs[p] == 0 && rangs[p + 1] == 1 && rangs[p + 2] == 2 && rangs[p + 3] == 3 && rangs[p + 4] == 12)
+      if (rangs[p] == 0 && rangs[p + 1] == 1 && rangs[p + 2] == 2 && rangs[p + 3] == 3 &&
+          rangs[p + 4] == 12)
         Tourne(r, p, p + 4);
     if (t.ToutQuinte[siège] && rangs[10] == 0 && rangs[11] == 1 && rangs[12] == 12)
       Tourne(r, 10, 12);

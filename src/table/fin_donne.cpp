@@ -30,8 +30,8 @@ void TroisNiveaux::Abattage() {
   Fenêtre.TempsLabel.Caption = "";
   Fenêtre.TempsTimer.Enabled = false;
   ÉcritTempsDuMode();
-  for (Contrôle *c : {&Fenêtre.NouveauJeu, &Fenêtre.Rejoue, &Fenêtre.NomsJoueurs,
-                      &Fenêtre.Scoresà0, &Fenêtre.Mode})
+  for (Contrôle *c : {&Fenêtre.NouveauJeu, &Fenêtre.Rejoue, &Fenêtre.NomsJoueurs, &Fenêtre.Scoresà0,
+                      &Fenêtre.Mode})
     c->Enabled = true;
   Fenêtre.Arrêt.Enabled = false;
 }

@@ -1,6 +1,5 @@
 #include "core/table_state.h"
 
-
 void TroisNiveaux::ActiveMenu(bool actif) {
   auto &f = Fenêtre;
   for (Contrôle *c : {&f.NouveauJeu, &f.Rejoue, &f.NomsJoueurs, &f.Scoresà0, &f.Mode,

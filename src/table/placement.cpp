@@ -9,15 +9,16 @@ void TroisNiveaux::CartesJeu_MouseUp(int index) {
     return;
   if (index < 39 || index > 51)
     return;
-  auto &cartes = Fenêtre.CartesJeu;
+  const auto &cartes = Fenêtre.CartesJeu;
+  // A picked-up card stays where it is; the hidden slot 52 holds its picture.
   if (CarteLevée == 0) {
-    cartes[52].Picture = cartes[index].Picture;
+    MontreCarte(52, cartes[index].Picture);
     EmplacementLevé = static_cast<uint8_t>(index);
     CarteLevée = 1;
     return;
   }
-  cartes[EmplacementLevé].Picture = cartes[index].Picture;
-  cartes[index].Picture = cartes[52].Picture;
+  MontreCarte(EmplacementLevé, cartes[index].Picture);
+  MontreCarte(index, cartes[52].Picture);
   CarteLevée = 0;
   std::swap(Mains[4][EmplacementLevé - 39], Mains[4][index - 39]);
 }

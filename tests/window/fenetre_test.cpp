@@ -75,8 +75,11 @@ TEST(Fenêtre, JouerMontreLesCartesDeLHumainEtDeuxClicsLesÉchangent) {
   EXPECT_EQ(table.t.Mains[4][12], a);
   // The slot shows the card's own picture (inside its rounded corners).
   const QRect dedans(8, 8, 74, 119);
-  const QImage montré =
-      table.Vue(f.CartesJeu[39])->grab().toImage().convertToFormat(QImage::Format_RGB32).copy(dedans);
+  const QImage montré = table.Vue(f.CartesJeu[39])
+                            ->grab()
+                            .toImage()
+                            .convertToFormat(QImage::Format_RGB32)
+                            .copy(dedans);
   const QImage attendu =
       ImageBrute(b, QSize(90, 135), 1).convertToFormat(QImage::Format_RGB32).copy(dedans);
   EXPECT_TRUE(montré == attendu);
@@ -107,16 +110,26 @@ TEST(Fenêtre, StopPendantUnBalayageRythméLArrêteAussitôt) {
   EXPECT_LT(table.plateforme.plusLongSansÉvénements, 100);
 }
 
-TEST(Fenêtre, QuitterPendantLeBalayageFinitLaSession) {
-  Table table;
-  table.plateforme.duréeParSiège = 8;
-  int code = -1;
-  QTimer::singleShot(200, [&] { table.Clic(table.t.Fenêtre.Fin); });
-  QTimer::singleShot(0, [&] { table.Clic(table.t.Fenêtre.NouveauJeu); });
-  code = QApplication::exec();
-  EXPECT_EQ(code, 0);
-  EXPECT_TRUE(table.t.SessionTerminée);
-  EXPECT_TRUE(table.plateforme.quitté);
+// QUITTER or the window's close box, in the middle of a paced sweep: the
+// nested loops unwind and the application's loop ends with status 0.
+TEST(Fenêtre, QuitterOuFermerPendantLeBalayageFinitLaSession) {
+  for (const bool parLaCroix : {false, true}) {
+    Table table;
+    table.plateforme.duréeParSiège = 8;
+    QTimer::singleShot(200, [&] {
+      if (parLaCroix)
+        table.fenêtre.close();
+      else
+        table.Clic(table.t.Fenêtre.Fin);
+    });
+    QTimer::singleShot(0, [&] { table.Clic(table.t.Fenêtre.NouveauJeu); });
+    QElapsedTimer chrono;
+    chrono.start();
+    EXPECT_EQ(QApplication::exec(), 0);
+    EXPECT_LT(chrono.elapsed(), 3000);
+    EXPECT_TRUE(table.t.SessionTerminée);
+    EXPECT_TRUE(table.plateforme.quitté);
+  }
 }
 
 TEST(Fenêtre, LeLivreDesRèglesSeFeuillette) {
@@ -153,9 +166,13 @@ TEST(Fenêtre, LesNomsRefusentLesGuillemetsEtCeQueLeFichierNePeutPorter) {
   saisie->selectAll();
   QTest::keyClick(saisie, Qt::Key_Backspace);
   QTest::keyClicks(saisie, "Zo");
-  QTest::sendKeyEvent(QTest::KeyAction::Click, saisie, Qt::Key_unknown, QString("é"), Qt::NoModifier);
+  QTest::sendKeyEvent(QTest::KeyAction::Click, saisie, Qt::Key_unknown, QString("é"),
+                      Qt::NoModifier);
   QTest::keyClicks(saisie, "\"");
-  QTest::sendKeyEvent(QTest::KeyAction::Click, saisie, Qt::Key_unknown, QString("\u0416"), Qt::NoModifier);
+  QTest::sendKeyEvent(QTest::KeyAction::Click, saisie, Qt::Key_unknown, QString("\u0416"),
+                      Qt::NoModifier);
+  saisie->insert("\r\n"); // a pasted line break would split the file's line
+  saisie->insert("a\tb");
   EXPECT_EQ(saisie->text(), "Zoé");
   EXPECT_EQ(f.NomsJoueursText[0].Text, "Zoé");
   auto *deuxième = table.Vue(f.NomsJoueursText[1])->findChild<QLineEdit *>();

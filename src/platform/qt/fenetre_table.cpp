@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QHash>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
@@ -46,14 +47,17 @@ QString Texte(const std::string &s) {
   return texte;
 }
 
-// Names go to a file in Windows-1252 between double quotes: what it cannot
-// carry is refused as it is typed or pasted.
+// Names go to a file in Windows-1252, one a line between double quotes: what
+// it cannot carry back (a quote, a line break, a character outside that code)
+// is refused as it is typed or pasted.
 class ValidateurNom : public QValidator {
 public:
   using QValidator::QValidator;
   State validate(QString &texte, int &) const override {
-    const std::string utf8 = texte.toStdString();
-    return texte.contains('"') || !format::TientEnWindows1252(utf8) ? Invalid : Acceptable;
+    for (const QChar c : texte)
+      if (c == '"' || c.category() == QChar::Other_Control)
+        return Invalid;
+    return format::TientEnWindows1252(texte.toStdString()) ? Acceptable : Invalid;
   }
 };
 
@@ -98,8 +102,7 @@ public:
       else
         unsetCursor();
     }
-    if (saisie && (premier || m.Text != copie.Text) &&
-        saisie->text().toStdString() != m.Text)
+    if (saisie && (premier || m.Text != copie.Text) && saisie->text().toStdString() != m.Text)
       saisie->setText(QString::fromStdString(m.Text));
     if (aspect && saisie) {
       QPalette palette = saisie->palette();
@@ -138,8 +141,10 @@ protected:
       saisie->setGeometry(rect());
   }
 
+  // MouseUp follows a press of any button, wherever it is let go; Click
+  // wants the left button, let go over the control.
   void mousePressEvent(QMouseEvent *e) override {
-    if (relâché && modèle.Enabled) {
+    if (relâché && modèle.Enabled && (!surClic || e->button() == Qt::LeftButton)) {
       enfoncé = true;
       update();
     }
@@ -248,15 +253,15 @@ public:
 protected:
   void paintEvent(QPaintEvent *e) override {
     QPainter p(this);
-    p.fillRect(e->rect(), Qt::black);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.setPen(Qt::NoPen);
-    p.setBrush(Qt::white);
+    for (const QRect &r : e->region())
+      p.fillRect(r, Qt::black);
     for (int i = 1; i <= 50; ++i) {
-      const QPointF centre(t.EtoileX[i] / 15.0, t.EtoileY[i] / 15.0);
-      const qreal rayon = std::max(0.5, t.EtoileRayon[i] / 15.0);
-      if (e->rect().adjusted(-2, -2, 2, 2).contains(centre.toPoint()))
-        p.drawEllipse(centre, rayon, rayon);
+      const QImage &étoile = Étoile(t.EtoileRayon[i], devicePixelRatioF());
+      const QSizeF taille = étoile.deviceIndependentSize();
+      const QPointF coin(t.EtoileX[i] / 15.0 - taille.width() / 2,
+                         t.EtoileY[i] / 15.0 - taille.height() / 2);
+      if (e->region().intersects(QRectF(coin, taille).toAlignedRect()))
+        p.drawImage(coin, étoile);
     }
     if (premierAffichage) {
       auto rappel = std::move(premierAffichage);
@@ -267,6 +272,29 @@ protected:
 
 private:
   TroisNiveaux &t;
+
+  // A star is a dot of a pixel or two: drawn once per radius and ratio, then
+  // copied, which costs far less than a curve at each of 64 ticks a second.
+  static const QImage &Étoile(int rayonTwips, qreal ratio) {
+    static QHash<QPair<int, qreal>, QImage> cache;
+    const auto clé = qMakePair(rayonTwips, ratio);
+    auto it = cache.find(clé);
+    if (it == cache.end()) {
+      const qreal rayon = std::max(0.5, rayonTwips / 15.0);
+      const int côté = 2 * static_cast<int>(std::ceil(rayon)) + 2;
+      QImage image(QSize(côté, côté) * ratio, QImage::Format_ARGB32_Premultiplied);
+      image.setDevicePixelRatio(ratio);
+      image.fill(Qt::transparent);
+      QPainter p(&image);
+      p.setRenderHint(QPainter::Antialiasing);
+      p.setPen(Qt::NoPen);
+      p.setBrush(Qt::white);
+      p.drawEllipse(QPointF(côté / 2.0, côté / 2.0), rayon, rayon);
+      p.end();
+      it = cache.insert(clé, image);
+    }
+    return *it;
+  }
 };
 
 FenêtreTable::FenêtreTable(TroisNiveaux &table, PlateformeQt &plateforme)
@@ -285,14 +313,17 @@ FenêtreTable::FenêtreTable(TroisNiveaux &table, PlateformeQt &plateforme)
   étoiles.setTimerType(Qt::PreciseTimer);
   étoiles.setInterval(16);
   connect(&étoiles, &QTimer::timeout, this, [this] {
-    if (dansÉtoiles || fermé)
+    if (fermé)
       return;
-    dansÉtoiles = true;
     std::copy(std::begin(t.EtoileX), std::end(t.EtoileX), anciensX);
     std::copy(std::begin(t.EtoileY), std::end(t.EtoileY), anciensY);
+    // The tick came from the event loop: the turn it asks for first would
+    // only nest another loop in it, and a deal started in there would run
+    // with the stars held still.
+    this->plateforme.sansTour = true;
     t.EtoilesTimer_Timer();
+    this->plateforme.sansTour = false;
     DéplaceÉtoiles();
-    dansÉtoiles = false;
   });
   temps.setInterval(1000);
   connect(&temps, &QTimer::timeout, this, [this] { Événement([this] { t.TempsTimer_Timer(); }); });
@@ -303,9 +334,6 @@ FenêtreTable::FenêtreTable(TroisNiveaux &table, PlateformeQt &plateforme)
 }
 
 FenêtreTable::~FenêtreTable() {
-  // The carriers go first: their windows belong to the panels' containers.
-  for (QWidget *porteur : porteurs)
-    delete porteur;
   plateforme.aprèsTour = nullptr;
   plateforme.table = nullptr;
 }
@@ -389,24 +417,39 @@ void FenêtreTable::Relie() {
     v->surClic = clic;
     v->relâché = [this, gestionnaire] { Événement(gestionnaire); };
   };
-  relie(f.NouveauJeu, [this] { t.NouveauJeu_MouseUp(); }, false);
-  relie(f.Joue, [this] { t.Joue_Click(); }, true);
-  relie(f.Arrêt, [this] { t.Arrêt_MouseUp(); }, false);
-  relie(f.Rejoue, [this] { t.Rejoue_MouseUp(); }, false);
-  relie(f.Mode, [this] { t.Mode_MouseUp(); }, false);
-  relie(f.Scoresà0, [this] { t.Scoresà0_MouseUp(); }, false);
-  relie(f.NomsJoueurs, [this] { t.NomsJoueurs_MouseUp(); }, false);
-  relie(f.Fin, [this] { t.Fin_MouseUp(); }, false);
-  relie(f.EnregistreNoms, [this] { t.EnregistreNoms_MouseUp(); }, false);
-  relie(f.AnnuleNoms, [this] { t.AnnuleNoms_MouseUp(); }, false);
-  relie(f.NonConnectéCmd, [this] { t.NonConnectéCmd_Click(); }, true);
+  relie(
+      f.NouveauJeu, [this] { t.NouveauJeu_MouseUp(); }, false);
+  relie(
+      f.Joue, [this] { t.Joue_Click(); }, true);
+  relie(
+      f.Arrêt, [this] { t.Arrêt_MouseUp(); }, false);
+  relie(
+      f.Rejoue, [this] { t.Rejoue_MouseUp(); }, false);
+  relie(
+      f.Mode, [this] { t.Mode_MouseUp(); }, false);
+  relie(
+      f.Scoresà0, [this] { t.Scoresà0_MouseUp(); }, false);
+  relie(
+      f.NomsJoueurs, [this] { t.NomsJoueurs_MouseUp(); }, false);
+  relie(
+      f.Fin, [this] { t.Fin_MouseUp(); }, false);
+  relie(
+      f.EnregistreNoms, [this] { t.EnregistreNoms_MouseUp(); }, false);
+  relie(
+      f.AnnuleNoms, [this] { t.AnnuleNoms_MouseUp(); }, false);
+  relie(
+      f.NonConnectéCmd, [this] { t.NonConnectéCmd_Click(); }, true);
   for (int i = 0; i <= 1; ++i) {
-    relie(f.VoirOrdi[i], [this, i] { t.VoirOrdi_Click(i); }, true);
-    relie(f.VoirRègles[i], [this, i] { t.VoirRègles_Click(i); }, true);
-    relie(f.TextScroll[i], [this, i] { t.TextScroll_Click(i); }, true);
+    relie(
+        f.VoirOrdi[i], [this, i] { t.VoirOrdi_Click(i); }, true);
+    relie(
+        f.VoirRègles[i], [this, i] { t.VoirRègles_Click(i); }, true);
+    relie(
+        f.TextScroll[i], [this, i] { t.TextScroll_Click(i); }, true);
   }
   for (int i = 0; i <= 52; ++i)
-    relie(f.CartesJeu[i], [this, i] { t.CartesJeu_MouseUp(i); }, false);
+    relie(
+        f.CartesJeu[i], [this, i] { t.CartesJeu_MouseUp(i); }, false);
   // The one way back from the widgets: what is typed in the names panel.
   for (int s = 0; s <= 3; ++s) {
     auto *v = static_cast<VueContrôle *>(Vue(f.NomsJoueursText[s]));
@@ -455,7 +498,9 @@ void FenêtreTable::Raccourcis() {
     });
     for (const auto &cible : r.cibles) {
       QWidget *vue = Vue(*cible.first);
-      const QString nom = cible.first->Caption.empty() ? QString() : QString::fromStdString(cible.first->Caption) + " — ";
+      const QString nom = cible.first->Caption.empty()
+                              ? QString()
+                              : QString::fromStdString(cible.first->Caption) + " — ";
       if (vue && vue->toolTip().isEmpty())
         vue->setToolTip(nom + "touche " + r.touche.toString(QKeySequence::NativeText));
     }
@@ -497,36 +542,14 @@ void FenêtreTable::DéplaceÉtoiles() {
     const int marge = 2 + t.EtoileRayon[i] / 15;
     for (const QPointF centre : {QPointF(anciensX[i] / 15.0, anciensY[i] / 15.0),
                                  QPointF(t.EtoileX[i] / 15.0, t.EtoileY[i] / 15.0)}) {
-      const QRect carré(centre.toPoint() - QPoint(marge, marge), QSize(2 * marge + 1, 2 * marge + 1));
+      const QRect carré(centre.toPoint() - QPoint(marge, marge),
+                        QSize(2 * marge + 1, 2 * marge + 1));
       if (!couvert.contains(carré))
         àRepeindre += carré;
     }
   }
   if (!àRepeindre.isEmpty())
     fond->update(àRepeindre);
-}
-
-// The carriers are native windows, which lie over every plain widget: the
-// panels that lie over a web panel are native too, and their windows are
-// stacked in the model's order once they all exist.
-void FenêtreTable::showEvent(QShowEvent *event) {
-  QWidget::showEvent(event);
-  if (porteurs.empty())
-    return;
-  for (int n = Contrôles::NombrePanneauxHaut - 1; n >= 0; --n) {
-    QWidget *panneau = Vue(*t.Fenêtre.Empilement[n]);
-    if (panneau->testAttribute(Qt::WA_NativeWindow))
-      panneau->raise();
-  }
-  if (t.Fenêtre.NonConnectéPic.Visible)
-    Vue(t.Fenêtre.NonConnectéPic)->raise();
-  if (qEnvironmentVariableIsSet("TN_ESSAI_ECRAN")) {
-    fprintf(stderr, "fond %llx\n", (unsigned long long)fond->internalWinId());
-    for (QObject *o : fond->children()) {
-      auto *v = static_cast<VueContrôle *>(o);
-      fprintf(stderr, "PILE %s %llx vis=%d\n", v->modèle.Nom.c_str(), (unsigned long long)v->internalWinId(), v->isVisible());
-    }
-  }
 }
 
 void FenêtreTable::closeEvent(QCloseEvent *event) {
@@ -539,55 +562,4 @@ void FenêtreTable::closeEvent(QCloseEvent *event) {
 
 void FenêtreTable::PremierAffichage(std::function<void()> rappel) {
   static_cast<FondÉtoilé *>(fond)->premierAffichage = std::move(rappel);
-}
-
-QWidget *FenêtreTable::PorteurWeb(const Contrôle &panneau) {
-  auto &f = t.Fenêtre;
-  if (porteurs.empty())
-    for (const Contrôle *c : {&f.NonConnectéPic, &f.Pub1Pic, &f.Pub0Pic, &f.MenuSS, &f.RèglesText,
-                              &f.SSJoueur[3], &f.NomsJoueursSS})
-      Vue(*c)->setAttribute(Qt::WA_NativeWindow);
-  QWidget *vue = Vue(panneau);
-  auto *porteur = new QWidget(nullptr, Qt::FramelessWindowHint);
-  porteur->setAttribute(Qt::WA_NativeWindow);
-  porteur->setAutoFillBackground(true);
-  QPalette palette = porteur->palette();
-  palette.setColor(QPalette::Window, qEnvironmentVariableIsSet("TN_ESSAI_ECRAN") ? Qt::darkRed : Qt::black);
-  porteur->setPalette(palette);
-  porteur->setGeometry(QRect(QPoint(-10000, -10000), vue->size()));
-  porteur->show();
-  QWidget *conteneur = QWidget::createWindowContainer(porteur->windowHandle(), vue);
-  conteneur->setGeometry(vue->rect());
-  conteneur->show();
-  porteurs.push_back(porteur);
-  conteneurs.insert(porteur, conteneur);
-  return porteur;
-}
-
-// A grab draws the widgets of this window only: the carriers' pages are
-// painted over it where they show, that is in their panel minus the panels
-// that lie over it.
-QPixmap FenêtreTable::Capture() {
-  QPixmap image = grab();
-  QPainter p(&image);
-  for (QWidget *porteur : porteurs) {
-    QWidget *conteneur = porteur->parentWidget() ? nullptr : conteneurs.value(porteur);
-    if (!conteneur || !conteneur->isVisibleTo(this))
-      continue;
-    QWidget *panneau = conteneur;
-    while (panneau->parentWidget() != fond)
-      panneau = panneau->parentWidget();
-    QRegion visible(QRect(conteneur->mapTo(this, QPoint(0, 0)), conteneur->size()));
-    for (QWidget *w = conteneur->parentWidget(); w != fond; w = w->parentWidget())
-      visible &= QRect(w->mapTo(this, QPoint(0, 0)), w->size());
-    const QObjectList &pile = fond->children();
-    for (qsizetype n = pile.indexOf(panneau) + 1; n < pile.size(); ++n) {
-      auto *dessus = qobject_cast<QWidget *>(pile[n]);
-      if (dessus && dessus->isVisibleTo(this))
-        visible -= dessus->geometry();
-    }
-    p.setClipRegion(visible);
-    p.drawPixmap(conteneur->mapTo(this, QPoint(0, 0)), porteur->grab());
-  }
-  return image;
 }

@@ -4,7 +4,6 @@
 // the game's handler of that name. After each event the widgets are brought
 // in line with the model, only where something changed.
 
-#include <QHash>
 #include <QTimer>
 #include <QWidget>
 #include <functional>
@@ -30,16 +29,9 @@ public:
   QWidget *Fond() const { return fond; }
   // Called once, when the table is first painted.
   void PremierAffichage(std::function<void()> rappel);
-  // The widget inside a web panel where its page goes: a window of its own
-  // set into the panel, so that the web engine's compositing stays out of the
-  // table's repaints (each tick of the stars would redraw the whole window).
-  QWidget *PorteurWeb(const Contrôle &panneau);
-  // The table as it shows, web pages included.
-  QPixmap Capture();
 
 protected:
   void closeEvent(QCloseEvent *event) override;
-  void showEvent(QShowEvent *event) override;
 
 private:
   void Construit();
@@ -53,9 +45,6 @@ private:
   QWidget *fond = nullptr;
   std::vector<VueContrôle *> vues;
   QTimer étoiles, temps, nonConnecté;
-  std::vector<QWidget *> porteurs;
-  QHash<QWidget *, QWidget *> conteneurs;
-  bool dansÉtoiles = false;
   bool fermé = false;
   float anciensX[51] = {}, anciensY[51] = {};
 };

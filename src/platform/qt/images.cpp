@@ -159,8 +159,10 @@ void Dos(QPainter &p, qreal l, qreal h) {
   p.fillRect(champ, QColor(30, 70, 170));
   p.setPen(QPen(QColor(90, 130, 220), std::max(1.0, l * 0.012)));
   for (qreal d = -h; d < l + h; d += l * 0.09) {
-    p.drawLine(QLineF(champ.left() + d, champ.top(), champ.left() + d + champ.height(), champ.bottom()));
-    p.drawLine(QLineF(champ.left() + d, champ.bottom(), champ.left() + d + champ.height(), champ.top()));
+    p.drawLine(
+        QLineF(champ.left() + d, champ.top(), champ.left() + d + champ.height(), champ.bottom()));
+    p.drawLine(
+        QLineF(champ.left() + d, champ.bottom(), champ.left() + d + champ.height(), champ.top()));
   }
   p.setPen(QPen(Qt::black, std::max(1.0, l * 0.012)));
   p.setBrush(Qt::NoBrush);
@@ -244,7 +246,7 @@ void Main(QPainter &p, bool haut) {
   p.setPen(QPen(Qt::black, 1.3));
   p.setBrush(QColor(250, 225, 190));
   QPainterPath main;
-  main.addRoundedRect(QRectF(13, 3, 6, 17), 3, 3); // the pointing finger
+  main.addRoundedRect(QRectF(13, 3, 6, 17), 3, 3);  // the pointing finger
   main.addRoundedRect(QRectF(9, 15, 15, 14), 4, 4); // the fist
   p.drawPath(main.simplified());
   p.drawLine(QLineF(12, 20, 22, 20));
@@ -283,7 +285,8 @@ QImage ImageBrute(int index, QSize taille, qreal ratio) {
 
 QPixmap Image(int index, QSize taille, qreal ratio) {
   static QHash<QString, QPixmap> cache;
-  const QString clé = QString("%1/%2x%3/%4").arg(index).arg(taille.width()).arg(taille.height()).arg(ratio);
+  const QString clé =
+      QString("%1/%2x%3/%4").arg(index).arg(taille.width()).arg(taille.height()).arg(ratio);
   auto it = cache.find(clé);
   if (it == cache.end())
     it = cache.insert(clé, QPixmap::fromImage(ImageBrute(index, taille, ratio)));

@@ -18,6 +18,8 @@ PlateformeQt::PlateformeQt() { depuisDernierTour.start(); }
 PlateformeQt::~PlateformeQt() = default;
 
 void PlateformeQt::TourDeBoucle() {
+  if (sansTour)
+    return;
   QCoreApplication::processEvents(QEventLoop::AllEvents);
   if (aprèsTour)
     aprèsTour();
@@ -93,7 +95,8 @@ void PlateformeQt::SignaleErreur(const std::string &message) {
   if (!dialogues)
     return;
   // Not modal: the game goes on behind the message.
-  auto *boîte = new QMessageBox(QMessageBox::Warning, "TroisNiveaux", QString::fromStdString(message));
+  auto *boîte =
+      new QMessageBox(QMessageBox::Warning, "TroisNiveaux", QString::fromStdString(message));
   boîte->setAttribute(Qt::WA_DeleteOnClose);
   boîte->setModal(false);
   boîte->show();

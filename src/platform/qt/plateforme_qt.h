@@ -38,6 +38,9 @@ public:
   std::function<void()> aprèsTour;
   std::unique_ptr<PagesWeb> pages;
   bool quitté = false;
+  // Set while a handler runs that came from the event loop and whose turn of
+  // the loop would only nest another one.
+  bool sansTour = false;
   // The longest stretch the sweep went without handling events, in ms.
   qint64 plusLongSansÉvénements = 0;
 

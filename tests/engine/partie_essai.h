@@ -1,0 +1,57 @@
+#pragma once
+// A whole session without a window, its files in a temporary folder, for
+// tests that drive the game through its handlers.
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "core/table_state.h"
+#include "dossier_essai.h"
+#include "platform/sans_fenetre.h"
+
+struct Partie {
+  DossierEssai dossier;
+  PlateformeSansFenêtre plateforme{dossier.Chemin()};
+  TroisNiveaux t{plateforme};
+
+  explicit Partie(uint8_t mode = 1) {
+    t.Form_Load();
+    EXPECT_FALSE(t.DémarrageRefusé) << t.ErreurDémarrage;
+    if (mode != t.Mode)
+      t.Mode_MouseUp();
+  }
+
+  // The cards that REJOUE deals, seat by seat.
+  void Tirage(const std::vector<std::vector<int>> &mains) const {
+    std::string octets;
+    for (const auto &main : mains)
+      for (int c : main)
+        octets += std::to_string(c) + "\r\n";
+    dossier.Écrit("Tirage", octets);
+  }
+
+  // Lays the human's cards out in this order by clicks, as a player would.
+  void Dispose(const std::vector<int> &voulu) {
+    for (int k = 0; k <= 12; ++k)
+      for (int j = k + 1; j <= 12; ++j)
+        if (t.Mains[4][j] == voulu[k]) {
+          t.CartesJeu_MouseUp(39 + k);
+          t.CartesJeu_MouseUp(39 + j);
+        }
+  }
+
+  // The captions of a family of labels, one after the other.
+  template <std::size_t N>
+  static std::string Textes(const Contrôle (&labels)[N], const std::string &entre = " ") {
+    std::string textes;
+    for (std::size_t i = 0; i < N; ++i)
+      textes += (i ? entre : "") + labels[i].Caption;
+    return textes;
+  }
+  std::string Paiements() const { return Textes(t.Fenêtre.LabelPaie); }
+  int SommeDesTotaux() const {
+    return t.TotauxDonne[0] + t.TotauxDonne[1] + t.TotauxDonne[2] + t.TotauxDonne[3];
+  }
+};
