@@ -121,8 +121,8 @@ bool TroisNiveaux::LitScores() {
 
 namespace {
 
-// Why a file could not be replaced, in the player's words. The system's own
-// error code is gone by the time Qt reports, so the folder is asked again.
+// Why a file could not be replaced, in the player's words. Qt keeps only a
+// coarse error kind, so the last system error and the folder itself are asked.
 std::string Raison(const std::string &nom, QFileDevice::FileError erreur, int errnoÉcriture) {
   std::error_code e;
   if (std::filesystem::is_directory(nom, e))
@@ -147,11 +147,10 @@ void Écrit(TroisNiveaux &t, const std::string &nom, const std::string &octets) 
   errno = 0;
   // The flush comes before the commit: a commit whose own flush fails still
   // renames the empty temporary file over the old one.
-  const bool réussi =
-      fichier.open(QIODevice::WriteOnly) &&
-      fichier.write(octets.data(), static_cast<qint64>(octets.size())) ==
-          static_cast<qint64>(octets.size()) &&
-      fichier.flush() && fichier.commit();
+  const bool réussi = fichier.open(QIODevice::WriteOnly) &&
+                      fichier.write(octets.data(), static_cast<qint64>(octets.size())) ==
+                          static_cast<qint64>(octets.size()) &&
+                      fichier.flush() && fichier.commit();
   const int errnoÉcriture = errno;
   if (!réussi)
     fichier.cancelWriting();
@@ -167,9 +166,9 @@ void Écrit(TroisNiveaux &t, const std::string &nom, const std::string &octets) 
     return;
   signalés.push_back(nom);
   t.plateforme.SignaleErreur("Impossible d'enregistrer le fichier « " + nom + " » (" +
-                           CheminComplet(nom) + ") : " +
-                           Raison(nom, fichier.error(), errnoÉcriture) +
-                           ". La partie continue ; l'ancien fichier est conservé.");
+                             CheminComplet(nom) +
+                             ") : " + Raison(nom, fichier.error(), errnoÉcriture) +
+                             ". La partie continue ; l'ancien fichier est conservé.");
 }
 
 } // namespace
@@ -241,8 +240,8 @@ void TroisNiveaux::LitTirage() {
   for (int siège = 0; siège <= 3; ++siège) {
     for (int k = 0; k <= 12; ++k) {
       if (suivante < lignes.size())
-        if (const auto valeur = format::Entier(lignes[suivante++]); valeur && *valeur >= 0 &&
-                                                                    *valeur <= 255)
+        if (const auto valeur = format::Entier(lignes[suivante++]);
+            valeur && *valeur >= 0 && *valeur <= 255)
           c = static_cast<uint8_t>(*valeur);
       if (siège == 3) {
         MontreCarte(39 + k, c);

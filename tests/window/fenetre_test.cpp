@@ -91,6 +91,40 @@ TEST(Fenêtre, JouerMontreLesCartesDeLHumainEtDeuxClicsLesÉchangent) {
   EXPECT_TRUE(table.Vue(f.VoirOrdi[0])->isVisible());
 }
 
+// Whether every widget stands shown or hidden, live or off, as its control.
+::testing::AssertionResult SuitLeModèle(FenêtreTable &fenêtre) {
+  std::string écarts;
+  fenêtre.PourChaqueVue([&](const Contrôle &c, QWidget *vue) {
+    if (vue->isHidden() == c.Visible || vue->testAttribute(Qt::WA_ForceDisabled) == c.Enabled)
+      écarts += " " + c.Nom;
+  });
+  if (écarts.empty())
+    return ::testing::AssertionSuccess();
+  return ::testing::AssertionFailure() << "out of line:" << écarts;
+}
+
+// A session as a player makes it, every step through the widgets: deals in
+// both modes, the solution view, a replay, the names panel and the book.
+TEST(Fenêtre, UneSessionAuComplet) {
+  Table table;
+  auto &f = table.t.Fenêtre;
+  const auto étape = [&](const Contrôle &c) {
+    ASSERT_TRUE(table.Vue(c)->isVisible() && table.Vue(c)->isEnabled()) << c.Nom;
+    table.Clic(c);
+    EXPECT_TRUE(SuitLeModèle(table.fenêtre)) << "after " << c.Nom;
+  };
+  for (const Contrôle *c :
+       {&f.NouveauJeu, &f.Joue, &f.VoirOrdi[0], &f.VoirOrdi[1], &f.Mode, &f.NouveauJeu, &f.Joue,
+        &f.Rejoue, &f.Mode, &f.NomsJoueurs, &f.AnnuleNoms, &f.VoirRègles[0], &f.TextScroll[1],
+        &f.VoirRègles[1], &f.NouveauJeu, &f.Joue})
+    étape(*c);
+  EXPECT_EQ(f.Mode.Caption, "DEBUTANT");
+  int somme = 0;
+  for (int s = 0; s <= 3; ++s)
+    somme += std::stoi(f.ScoreLabel[s].Caption);
+  EXPECT_EQ(somme, 0) << "the points add up to zero";
+}
+
 TEST(Fenêtre, StopPendantUnBalayageRythméLArrêteAussitôt) {
   Table table;
   auto &f = table.t.Fenêtre;

@@ -402,6 +402,11 @@ QWidget *FenêtreTable::Vue(const Contrôle &c) const {
   return nullptr;
 }
 
+void FenêtreTable::PourChaqueVue(const std::function<void(const Contrôle &, QWidget *)> &f) const {
+  for (VueContrôle *v : vues)
+    f(v->modèle, v);
+}
+
 void FenêtreTable::Événement(const std::function<void()> &gestionnaire) {
   if (fermé)
     return;

@@ -24,6 +24,8 @@ public:
   void Synchronise();
   // The widget that shows a control, for tests.
   QWidget *Vue(const Contrôle &c) const;
+  // Every control with its widget, for tests.
+  void PourChaqueVue(const std::function<void(const Contrôle &, QWidget *)> &f) const;
   // Runs a handler as an event of the window: then the widgets follow.
   void Événement(const std::function<void()> &gestionnaire);
   QWidget *Fond() const { return fond; }
