@@ -15,7 +15,7 @@ target_link_libraries(troisniveaux-fenetre PUBLIC Qt6::Network)
 find_package(X11)
 if(X11_FOUND AND X11_Xrandr_FOUND)
   target_link_libraries(troisniveaux-fenetre PUBLIC X11::X11 X11::Xrandr)
-  target_compile_definitions(troisniveaux-fenetre PRIVATE TN_XRANDR)
+  target_compile_definitions(troisniveaux-fenetre PUBLIC TN_XRANDR)
 endif()
 
 # The advert panels: Qt WebEngine, unless left out. The server's base address

@@ -27,8 +27,9 @@ public:
           demandes << QString::fromLatin1(requête.split(' ').value(1));
           const QByteArray page = "<html><body style='background:#000'>Publicité"
                                   "<img src='http://exemple.invalid/pixel.png'></body></html>";
-          client->write("HTTP/1.1 200 OK\r\nContent-Type: text/html; charset=utf-8\r\nContent-Length: " +
-                        QByteArray::number(page.size()) + "\r\nConnection: close\r\n\r\n" + page);
+          client->write(
+              "HTTP/1.1 200 OK\r\nContent-Type: text/html; charset=utf-8\r\nContent-Length: " +
+              QByteArray::number(page.size()) + "\r\nConnection: close\r\n\r\n" + page);
           client->disconnectFromHost();
         });
       }
@@ -46,9 +47,8 @@ TEST(PagesWeb, SeulsLeServeurConfiguréEtLeLogoLocalSontPermis) {
   EXPECT_TRUE(PagesWeb::Permis("http://127.0.0.1:8765/pub0.htm"));
   EXPECT_FALSE(PagesWeb::Permis("http://127.0.0.1:9999/pub0.htm"));
   EXPECT_FALSE(PagesWeb::Permis("https://exemple.com/pub0.htm"));
-  EXPECT_TRUE(PagesWeb::Permis(QUrl::fromLocalFile(QCoreApplication::applicationDirPath() +
-                                                   "/logomdc200.htm")
-                                   .toString()));
+  EXPECT_TRUE(PagesWeb::Permis(
+      QUrl::fromLocalFile(QCoreApplication::applicationDirPath() + "/logomdc200.htm").toString()));
   EXPECT_FALSE(PagesWeb::Permis(QUrl::fromLocalFile("/etc/passwd").toString()));
   PagesWeb::DéfinitBase("");
   EXPECT_TRUE(PagesWeb::Base().startsWith("file://")) << "by default the program's own folder";
@@ -64,10 +64,12 @@ TEST(PagesWeb, LaPageVientDuServeurEtLesAutresHôtesSontRefusés) {
   PagesWeb::DéfinitBase(serveur.Base());
   QWidget panneau;
   panneau.resize(800, 155);
-  panneau.show();
   PagesWeb pages(&panneau, nullptr, nullptr);
   const int refuséesAvant = PagesWeb::Refusées();
   pages.Navigue(VueWeb::Pub0Web, "pub0.htm");
+  QCoreApplication::processEvents();
+  EXPECT_EQ(pages.Vue(VueWeb::Pub0Web), nullptr) << "no view before the window is drawn";
+  panneau.show();
   QTRY_VERIFY_WITH_TIMEOUT(pages.Vue(VueWeb::Pub0Web) != nullptr, 5000);
   auto *vue = static_cast<QWebEngineView *>(pages.Vue(VueWeb::Pub0Web));
   EXPECT_EQ(vue->parentWidget(), &panneau);

@@ -21,15 +21,16 @@ EnregistrementAffichage DepuisLÉcran() {
   return e;
 }
 
-#ifdef TN_XRANDR
 bool SurX11() { return QGuiApplication::platformName() == "xcb"; }
 
+#ifdef TN_XRANDR
 // The X screen's size table and the current entry, through RandR.
 struct ConfigurationX {
-  Display *affichage = XOpenDisplay(nullptr);
+  Display *affichage;
   XRRScreenConfiguration *configuration = nullptr;
-  ConfigurationX() {
-    if (affichage)
+  explicit ConfigurationX(const char *nom) : affichage(XOpenDisplay(nom)) {
+    int évènement, erreur;
+    if (affichage && XRRQueryExtension(affichage, &évènement, &erreur))
       configuration = XRRGetScreenInfo(affichage, DefaultRootWindow(affichage));
   }
   ~ConfigurationX() {
@@ -41,42 +42,57 @@ struct ConfigurationX {
   ConfigurationX(const ConfigurationX &) = delete;
   ConfigurationX &operator=(const ConfigurationX &) = delete;
 };
+
+// Xlib's default handler ends the program on any error; a refused mode must
+// only leave the screen as it is.
+int erreurX = 0;
+int NoteErreurX(Display *, XErrorEvent *e) {
+  erreurX = e->error_code;
+  return 0;
+}
+
+// The asked rate when this size offers it, else the server's choice (0), so
+// that a rate of the old size never makes the change fail.
+short FréquenceOfferte(XRRScreenConfiguration *configuration, int taille, short voulue) {
+  int nombre = 0;
+  const short *fréquences = XRRConfigRates(configuration, taille, &nombre);
+  for (int i = 0; i < nombre; ++i)
+    if (fréquences[i] == voulue)
+      return voulue;
+  return 0;
+}
 #endif
 
 } // namespace
 
-EnregistrementAffichage LitModeAffichage() {
+std::optional<EnregistrementAffichage> LitModeX11(const char *nomAffichage) {
 #ifdef TN_XRANDR
-  if (SurX11()) {
-    ConfigurationX x;
-    if (x.configuration) {
-      int nombre = 0;
-      Rotation rotation;
-      XRRScreenSize *tailles = XRRConfigSizes(x.configuration, &nombre);
-      const SizeID actuelle = XRRConfigCurrentConfiguration(x.configuration, &rotation);
-      if (tailles && actuelle < nombre) {
-        EnregistrementAffichage e;
-        e.dmPelsWidth = static_cast<int16_t>(tailles[actuelle].width);
-        e.dmPelsHeight = static_cast<int16_t>(tailles[actuelle].height);
-        e.dmBitsPerPel = static_cast<int16_t>(DefaultDepth(x.affichage, DefaultScreen(x.affichage)));
-        e.dmDisplayFrequency = XRRConfigCurrentRate(x.configuration);
-        return e;
-      }
-    }
-  }
+  ConfigurationX x(nomAffichage);
+  if (!x.configuration)
+    return std::nullopt;
+  int nombre = 0;
+  Rotation rotation;
+  XRRScreenSize *tailles = XRRConfigSizes(x.configuration, &nombre);
+  const SizeID actuelle = XRRConfigCurrentConfiguration(x.configuration, &rotation);
+  if (!tailles || actuelle >= nombre)
+    return std::nullopt;
+  EnregistrementAffichage e;
+  e.dmPelsWidth = static_cast<int16_t>(tailles[actuelle].width);
+  e.dmPelsHeight = static_cast<int16_t>(tailles[actuelle].height);
+  e.dmBitsPerPel = static_cast<int16_t>(DefaultDepth(x.affichage, DefaultScreen(x.affichage)));
+  e.dmDisplayFrequency = XRRConfigCurrentRate(x.configuration);
+  return e;
+#else
+  (void)nomAffichage;
+  return std::nullopt;
 #endif
-  return DepuisLÉcran();
 }
 
-// Only X11 lets a program choose the screen's mode; elsewhere the window
-// keeps its fixed size and the screen stays as it is.
-void AppliqueModeAffichage(const EnregistrementAffichage &e) {
+bool AppliqueModeX11(const EnregistrementAffichage &e, const char *nomAffichage) {
 #ifdef TN_XRANDR
-  if (!SurX11())
-    return;
-  ConfigurationX x;
+  ConfigurationX x(nomAffichage);
   if (!x.configuration)
-    return;
+    return false;
   int nombre = 0;
   Rotation rotation;
   XRRScreenSize *tailles = XRRConfigSizes(x.configuration, &nombre);
@@ -85,15 +101,38 @@ void AppliqueModeAffichage(const EnregistrementAffichage &e) {
   for (int i = 0; i < nombre; ++i) {
     if (tailles[i].width != e.dmPelsWidth || tailles[i].height != e.dmPelsHeight)
       continue;
-    const short voulue = e.dmDisplayFrequency > 0 ? e.dmDisplayFrequency : fréquence;
-    if (i == actuelle && voulue == fréquence)
-      return;
-    XRRSetScreenConfigAndRate(x.affichage, x.configuration, DefaultRootWindow(x.affichage),
-                              static_cast<SizeID>(i), rotation, voulue, CurrentTime);
+    const short voulue = FréquenceOfferte(
+        x.configuration, i, e.dmDisplayFrequency > 0 ? e.dmDisplayFrequency : fréquence);
+    if (i == actuelle && (voulue == fréquence || voulue == 0))
+      return true; // the same mode as now: nothing to do
+    erreurX = 0;
     XSync(x.affichage, False);
-    return;
+    auto *précédent = XSetErrorHandler(NoteErreurX);
+    const Status statut =
+        XRRSetScreenConfigAndRate(x.affichage, x.configuration, DefaultRootWindow(x.affichage),
+                                  static_cast<SizeID>(i), rotation, voulue, CurrentTime);
+    XSync(x.affichage, False);
+    XSetErrorHandler(précédent);
+    return statut == RRSetConfigSuccess && erreurX == 0;
   }
+  return false;
 #else
   (void)e;
+  (void)nomAffichage;
+  return false;
 #endif
+}
+
+EnregistrementAffichage LitModeAffichage() {
+  if (SurX11())
+    if (const auto mode = LitModeX11(nullptr))
+      return *mode;
+  return DepuisLÉcran();
+}
+
+// Only X11 lets a program choose the screen's mode; elsewhere the window
+// keeps its fixed size and the screen stays as it is.
+void AppliqueModeAffichage(const EnregistrementAffichage &e) {
+  if (SurX11())
+    AppliqueModeX11(e, nullptr);
 }

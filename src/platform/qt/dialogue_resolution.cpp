@@ -40,10 +40,14 @@ public:
     const auto bouton = [this](const char *texte, int left, uint32_t couleur) {
       auto *b = new QPushButton(QString::fromUtf8(texte), this);
       b->setGeometry(left, 96, 140, 33);
+      QFont f("Liberation Sans");
+      f.setPixelSize(12); // the longer caption fits its button
+      b->setFont(f);
       b->setStyleSheet(QString("background-color: %1").arg(Couleur(couleur).name()));
       return b;
     };
-    connect(bouton("Je suis d'accord", 165, 0xC0FFC0), &QPushButton::clicked, this, &QDialog::accept);
+    connect(bouton("Je suis d'accord", 165, 0xC0FFC0), &QPushButton::clicked, this,
+            &QDialog::accept);
     connect(bouton("Je ne suis pas d'accord", 16, 0xC0C0FF), &QPushButton::clicked, this,
             &QDialog::reject);
   }

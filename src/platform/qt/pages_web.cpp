@@ -2,11 +2,14 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QLoggingCategory>
 #include <QPointer>
 #include <QTimer>
 #include <QUrl>
 #include <QWidget>
+#include <QWindow>
 #include <cstdlib>
+#include <functional>
 #include <unistd.h>
 
 #ifdef TN_WEBENGINE
@@ -46,6 +49,44 @@ QRect Géométrie(VueWeb vue) {
   }
 }
 
+// Calls `suite` once, just after the window has shown its first image: the
+// web engine's start (a good tenth of a second) then never delays it.
+class Guetteur : public QObject {
+public:
+  Guetteur(QWidget *fenêtre, std::function<void()> suite)
+      : QObject(fenêtre), fenêtre(fenêtre), suite(std::move(suite)) {
+    fenêtre->installEventFilter(this);
+    if (QWindow *w = fenêtre->windowHandle()) {
+      w->installEventFilter(this);
+      if (w->isExposed())
+        Déclenche();
+    }
+  }
+
+protected:
+  bool eventFilter(QObject *objet, QEvent *e) override {
+    QWindow *w = fenêtre->windowHandle();
+    if (objet == fenêtre && e->type() == QEvent::Show && w)
+      w->installEventFilter(this);
+    else if (objet == w && e->type() == QEvent::Expose && w->isExposed())
+      Déclenche(); // the image is drawn as this event goes on; we come after
+    return false;
+  }
+
+private:
+  void Déclenche() {
+    fenêtre->removeEventFilter(this);
+    if (QWindow *w = fenêtre->windowHandle())
+      w->removeEventFilter(this);
+    QTimer::singleShot(0, this, [this] {
+      suite();
+      deleteLater();
+    });
+  }
+  QWidget *fenêtre;
+  std::function<void()> suite;
+};
+
 class Filtre : public QWebEngineUrlRequestInterceptor {
 public:
   using QWebEngineUrlRequestInterceptor::QWebEngineUrlRequestInterceptor;
@@ -75,6 +116,12 @@ void PrépareWebEngine() {
   // where a GL one emulated in software would take most of a core.
   if (qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND"))
     qputenv("QT_QUICK_BACKEND", "software");
+  // Nothing then draws with OpenGL: not loading it on X11 halves the time
+  // to the first image.
+  if (qEnvironmentVariableIsEmpty("QT_XCB_GL_INTEGRATION"))
+    qputenv("QT_XCB_GL_INTEGRATION", "none");
+  // The engine would report its whole set-up on every start.
+  QLoggingCategory::setFilterRules("qt.webenginecontext.info=false");
   QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
 #endif
 }
@@ -98,6 +145,11 @@ struct PagesWeb::Détail {
 #ifdef TN_WEBENGINE
   QWebEngineProfile *profil = nullptr;
   QPointer<QWebEngineView> vues[3];
+  // Pages asked for before the window's first image; the last one of a
+  // view wins.
+  QUrl enAttente[3];
+  QPointer<Guetteur> guetteur;
+  void OuvreEnAttente();
 #endif
 };
 
@@ -110,6 +162,7 @@ PagesWeb::PagesWeb(QWidget *panneauPub0, QWidget *panneauPub1, QWidget *panneauL
 
 PagesWeb::~PagesWeb() {
 #ifdef TN_WEBENGINE
+  delete détail->guetteur.data();
   for (auto &vue : détail->vues)
     delete vue.data();
   delete détail->profil;
@@ -132,31 +185,41 @@ void PagesWeb::Navigue(VueWeb vue, const std::string &page) {
   QWidget *panneau = détail->panneaux[n];
   if (!panneau)
     return;
-  const QUrl adresse(vue == VueWeb::LogoWeb ? DossierDuProgramme() + QString::fromStdString(page)
-                                            : Base() + QString::fromStdString(page));
-  // The view is made after the window is up, so the first frame never waits
-  // for the web engine.
-  QTimer::singleShot(0, panneau, [this, n, panneau, adresse] {
-    if (!détail->profil) {
-      détail->profil = new QWebEngineProfile();
-      détail->profil->setUrlRequestInterceptor(new Filtre(détail->profil));
-      détail->profil->setHttpCacheType(QWebEngineProfile::MemoryHttpCache);
-      détail->profil->setPersistentCookiesPolicy(QWebEngineProfile::NoPersistentCookies);
-    }
-    if (!détail->vues[n]) {
-      auto *nouvelle = new QWebEngineView(détail->profil, panneau);
-      nouvelle->setGeometry(Géométrie(static_cast<VueWeb>(n)));
-      nouvelle->setAttribute(Qt::WA_TransparentForMouseEvents);
-      nouvelle->setFocusPolicy(Qt::NoFocus);
-      nouvelle->setContextMenuPolicy(Qt::NoContextMenu);
-      nouvelle->page()->setBackgroundColor(Qt::black);
-      détail->vues[n] = nouvelle;
-      nouvelle->show();
-    }
-    détail->vues[n]->load(adresse);
-  });
+  détail->enAttente[n] =
+      QUrl(vue == VueWeb::LogoWeb ? DossierDuProgramme() + QString::fromStdString(page)
+                                  : Base() + QString::fromStdString(page));
+  if (!détail->guetteur)
+    détail->guetteur = new Guetteur(panneau->window(), [d = détail] { d->OuvreEnAttente(); });
 #else
   (void)vue;
   (void)page;
 #endif
 }
+
+#ifdef TN_WEBENGINE
+void PagesWeb::Détail::OuvreEnAttente() {
+  guetteur = nullptr; // a page asked for from now on needs a new wait
+  if (!profil) {
+    profil = new QWebEngineProfile();
+    profil->setUrlRequestInterceptor(new Filtre(profil));
+    profil->setHttpCacheType(QWebEngineProfile::MemoryHttpCache);
+    profil->setPersistentCookiesPolicy(QWebEngineProfile::NoPersistentCookies);
+  }
+  for (int n = 0; n < 3; ++n) {
+    if (enAttente[n].isEmpty() || !panneaux[n])
+      continue;
+    if (!vues[n]) {
+      auto *nouvelle = new QWebEngineView(profil, panneaux[n]);
+      nouvelle->setGeometry(Géométrie(static_cast<VueWeb>(n)));
+      nouvelle->setAttribute(Qt::WA_TransparentForMouseEvents);
+      nouvelle->setFocusPolicy(Qt::NoFocus);
+      nouvelle->setContextMenuPolicy(Qt::NoContextMenu);
+      nouvelle->page()->setBackgroundColor(Qt::black);
+      vues[n] = nouvelle;
+      nouvelle->show();
+    }
+    vues[n]->load(enAttente[n]);
+    enAttente[n].clear();
+  }
+}
+#endif

@@ -9,7 +9,8 @@ namespace {
 bool InterfaceActive() {
   for (const QNetworkInterface &i : QNetworkInterface::allInterfaces()) {
     const auto drapeaux = i.flags();
-    if (drapeaux.testFlag(QNetworkInterface::IsUp) && drapeaux.testFlag(QNetworkInterface::IsRunning) &&
+    if (drapeaux.testFlag(QNetworkInterface::IsUp) &&
+        drapeaux.testFlag(QNetworkInterface::IsRunning) &&
         !drapeaux.testFlag(QNetworkInterface::IsLoopBack) && !i.addressEntries().isEmpty())
       return true;
   }
@@ -18,7 +19,8 @@ bool InterfaceActive() {
 } // namespace
 
 bool MachineEnLigne() {
-  static const bool backend = QNetworkInformation::loadBackendByFeatures(QNetworkInformation::Feature::Reachability);
+  static const bool backend =
+      QNetworkInformation::loadBackendByFeatures(QNetworkInformation::Feature::Reachability);
   if (backend && QNetworkInformation::instance()) {
     const auto joignable = QNetworkInformation::instance()->reachability();
     if (joignable != QNetworkInformation::Reachability::Unknown)
