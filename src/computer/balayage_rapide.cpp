@@ -90,6 +90,17 @@ void ValeursDuSiège::Balaye(int première, int dernière, SuiviBalayage &suivi)
   float meilleure = suivi.meilleure;
   int32_t rangée = suivi.rangée;
   double somme = suivi.somme;
+  // The order test, then the sum rounded to float kept only when strictly greater.
+  const auto Retient = [&](int i, double v2, double v3) {
+    if (v2 < v1 && v3 < v2) {
+      somme = (v1 + v2) + v3;
+      const float f = static_cast<float>(somme);
+      if (f > meilleure) {
+        meilleure = f;
+        rangée = i;
+      }
+    }
+  };
 
   if (portée == 0) {
     // Level 1 is neither a straight nor a flush: no row of the group is
@@ -97,14 +108,7 @@ void ValeursDuSiège::Balaye(int première, int dernière, SuiviBalayage &suivi)
     for (int i = première; i <= dernière; ++i) {
       const double v2 = valeur2[niveau2[i]];
       const double v3 = valeur3[niveau3[i]];
-      if (v2 < v1 && v3 < v2) {
-        somme = (v1 + v2) + v3;
-        const float f = static_cast<float>(somme);
-        if (f > meilleure) {
-          meilleure = f;
-          rangée = i;
-        }
-      }
+      Retient(i, v2, v3);
     }
     suivi.valeur3 = valeur3[niveau3[dernière]];
   } else {
@@ -117,14 +121,7 @@ void ValeursDuSiège::Balaye(int première, int dernière, SuiviBalayage &suivi)
       if ((genre & ToujoursÉcrite) || vu == 0)
         v3 = valeur3[k3];
       const double v2 = valeur2[k2];
-      if (v2 < v1 && v3 < v2) {
-        somme = (v1 + v2) + v3;
-        const float f = static_cast<float>(somme);
-        if (f > meilleure) {
-          meilleure = f;
-          rangée = i;
-        }
-      }
+      Retient(i, v2, v3);
       if (vu & MêmeCouleur) {
         rangée = i;
         meilleure = 6900.0f;
