@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "analyse/commande_historique.h"
 #include "analyse/commande_main.h"
 
 int CommandeDonne(const std::vector<std::string> &arguments);
@@ -11,6 +12,7 @@ namespace {
 
 const char *const Aide = "Usage : troisniveaux-analyse main [--json] C1 ... C13\n"
                          "        troisniveaux-analyse donne ...\n"
+                         "        troisniveaux-analyse historique [--json] [FICHIER]\n"
                          "        troisniveaux-analyse <commande> --help\n";
 
 } // namespace
@@ -25,6 +27,8 @@ int main(int argc, char **argv) {
   const std::vector<std::string> suite(arguments.begin() + 1, arguments.end());
   if (commande == "main")
     return CommandeMain(suite, std::cout, std::cerr);
+  if (commande == "historique")
+    return CommandeHistorique(suite, std::cout, std::cerr);
   if (commande == "donne")
     return CommandeDonne(suite);
   if (commande == "--help" || commande == "-h") {

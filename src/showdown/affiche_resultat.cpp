@@ -1,3 +1,4 @@
+#include "files/historique.h"
 #include "showdown/abattage.h"
 
 // The showdown, in one go and without a turn of the event loop. The first
@@ -15,5 +16,6 @@ void TroisNiveaux::AfficheRésultat() {
   }
   abattage::MontreTable(*this, valeurs);
   ÉcritScores();
+  historique::NoteDonne(*this);
   ScoresÉcrits = true;
 }

@@ -1,4 +1,5 @@
 #include "core/table_state.h"
+#include "files/historique.h"
 
 void TroisNiveaux::ActiveMenu(bool actif) {
   auto &f = Fenêtre;
@@ -66,5 +67,6 @@ void TroisNiveaux::Scoresà0_MouseUp() {
     Fenêtre.ScoreLabel[siège].Caption = "0";
   }
   ÉcritScores();
+  historique::NoteRemise(*this);
   ScoresRemisà0 = true;
 }

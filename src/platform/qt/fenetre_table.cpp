@@ -12,7 +12,9 @@
 
 #include "core/table_state.h"
 #include "files/format.h"
+#include "platform/qt/choix_du_jeu.h"
 #include "platform/qt/images.h"
+#include "platform/qt/panneau_historique.h"
 #include "platform/qt/plateforme_qt.h"
 
 namespace {
@@ -514,6 +516,8 @@ void FenêtreTable::Raccourcis() {
   Vue(f.VoirRègles[0])->setToolTip("Règles du jeu — touche F1");
   Vue(f.TextScroll[0])->setToolTip("Page précédente — touche Page préc.");
   Vue(f.TextScroll[1])->setToolTip("Page suivante — touche Page suiv.");
+  InstalleChoixDuJeu(this);     // F8: the card decks
+  InstalleHistorique(this, t); // F9: the history of the scores
 }
 
 void FenêtreTable::Synchronise() {

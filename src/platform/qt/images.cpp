@@ -7,6 +7,7 @@
 #include <cmath>
 #include <tuple>
 
+#include "platform/qt/jeux_de_cartes.h"
 #include "table/controles.h"
 
 namespace {
@@ -284,6 +285,9 @@ QImage ImageBrute(int index, QSize taille, qreal ratio) {
 }
 
 QPixmap Image(int index, QSize taille, qreal ratio) {
+  // The cards come from the chosen deck where it has the picture.
+  if (QPixmap image = jeux::Image(index, taille, ratio); !image.isNull())
+    return image;
   static QHash<QString, QPixmap> cache;
   const QString clé =
       QString("%1/%2x%3/%4").arg(index).arg(taille.width()).arg(taille.height()).arg(ratio);

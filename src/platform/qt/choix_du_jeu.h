@@ -1,0 +1,13 @@
+#pragma once
+// F8 on the table: the next card deck, its name shown a moment over the
+// table, the choice kept for the next session.
+
+class QLabel;
+class QWidget;
+
+// Sets the remembered deck going and binds F8 on `fenêtre`.
+void InstalleChoixDuJeu(QWidget *fenêtre);
+// The deck after the chosen one, as F8 does it; the label that shows its
+// name, for tests.
+void JeuSuivant(QWidget *fenêtre);
+QLabel *ÉtiquetteDuJeu(QWidget *fenêtre);

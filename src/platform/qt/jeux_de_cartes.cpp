@@ -1,0 +1,331 @@
+#include "platform/qt/jeux_de_cartes.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QGuiApplication>
+#include <QLoggingCategory>
+#include <QPainter>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QSvgRenderer>
+#include <QThreadPool>
+#include <algorithm>
+#include <cmath>
+#include <memory>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
+QString ÉlémentDeCarte(int code) {
+  static const char *const rangs[13] = {"2", "3", "4",    "5",     "6",    "7", "8",
+                                        "9", "10", "jack", "queen", "king", "1"};
+  static const char *const couleurs[4] = {"club", "diamond", "heart", "spade"};
+  if (code >= 0 && code <= 51)
+    return QString("%1_%2").arg(rangs[code % 13], couleurs[code / 13]);
+  if (code == 52)
+    return "red_joker";
+  if (code == 53)
+    return "black_joker";
+  if (code == 54)
+    return "back";
+  return {};
+}
+
+std::optional<JeuDeCartes> LitJeu(const QString &dossier) {
+  QFile index(QDir(dossier).filePath("index.desktop"));
+  if (!index.open(QIODevice::ReadOnly | QIODevice::Text) || index.size() > 256 * 1024)
+    return std::nullopt;
+  QString nom, nomFrançais, svg;
+  bool dansLeGroupe = false;
+  for (const QString &brute : QString::fromUtf8(index.readAll()).split('\n')) {
+    const QString ligne = brute.trimmed();
+    if (ligne.startsWith('[')) {
+      // Only the first group describes the deck.
+      if (dansLeGroupe)
+        break;
+      dansLeGroupe = true;
+      continue;
+    }
+    const qsizetype égal = ligne.indexOf('=');
+    if (égal < 0)
+      continue;
+    const QString clé = ligne.left(égal).trimmed(), valeur = ligne.mid(égal + 1).trimmed();
+    if (clé == "Name")
+      nom = valeur;
+    else if (clé == "Name[fr]")
+      nomFrançais = valeur;
+    else if (clé == "SVG")
+      svg = valeur;
+  }
+  // The file must lie in the deck's folder: a name that climbs out is refused.
+  if (svg.isEmpty() || svg.contains('/'))
+    return std::nullopt;
+  const QString fichier = QDir(dossier).filePath(svg);
+  if (!QFile::exists(fichier))
+    return std::nullopt;
+  JeuDeCartes jeu;
+  jeu.id = QDir(dossier).dirName();
+  jeu.nom = !nomFrançais.isEmpty() ? nomFrançais : !nom.isEmpty() ? nom : jeu.id;
+  jeu.fichier = fichier;
+  return jeu;
+}
+
+std::optional<std::vector<QImage>> RendJeu(const QString &fichier, QSize taille, qreal ratio) {
+  // Decks use SVG features Qt draws without; its warnings say nothing to a player.
+  static const bool silence = [] {
+    QLoggingCategory::setFilterRules("qt.svg.warning=false");
+    return true;
+  }();
+  (void)silence;
+  QSvgRenderer rendu(fichier);
+  if (!rendu.isValid() || taille.isEmpty())
+    return std::nullopt;
+  std::vector<QImage> images(55);
+  for (int code = 0; code <= 54; ++code) {
+    const QString élément = ÉlémentDeCarte(code);
+    if (élément.isEmpty())
+      continue;
+    if (!rendu.elementExists(élément)) {
+      if (code <= 51 || code == 54)
+        return std::nullopt;
+      continue;
+    }
+    // Drawn whole in the slot, keeping the deck's proportions: a card a
+    // little wider than the slot keeps its top edge and its left corner.
+    const QRectF bords = rendu.boundsOnElement(élément);
+    QRectF cible(QPointF(0, 0), QSizeF(taille));
+    if (bords.width() > 0 && bords.height() > 0) {
+      const qreal échelle =
+          std::min(taille.width() / bords.width(), taille.height() / bords.height());
+      cible.setSize(bords.size() * échelle);
+      cible.moveLeft((taille.width() - cible.width()) / 2);
+    }
+    QImage image(taille * ratio, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    image.setDevicePixelRatio(ratio);
+    QPainter p(&image);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setRenderHint(QPainter::SmoothPixmapTransform);
+    rendu.render(&p, élément, cible);
+    p.end();
+    images[code] = std::move(image);
+  }
+  return images;
+}
+
+namespace jeux {
+
+namespace {
+
+struct Rendu {
+  QSize taille;
+  qreal ratio = 1;
+  std::vector<QPixmap> images;
+};
+
+struct État {
+  QStringList racines;
+  bool racinesDonnées = false;
+  std::optional<std::vector<JeuDeCartes>> installés;
+  int choisi = 0;
+  // Bumped at every choice: pictures of an earlier choice that arrive late
+  // are dropped.
+  int génération = 0;
+  std::vector<Rendu> rendus;
+  std::vector<std::pair<QSize, qreal>> enCours;
+  std::function<void(bool)> prêt;
+  std::function<void()> nouvellesImages;
+  QSize dernièreTaille{90, 135};
+  qreal dernierRatio = 0;
+  QThreadPool *fil = nullptr;
+};
+
+État &état() {
+  static État e;
+  return e;
+}
+
+QThreadPool &Fil() {
+  État &e = état();
+  if (!e.fil) {
+    // One thread: a deck is read while the previous one finishes, never two
+    // at once on the two cores the game shares with its search.
+    e.fil = new QThreadPool(QCoreApplication::instance());
+    e.fil->setMaxThreadCount(1);
+  }
+  return *e.fil;
+}
+
+void Demande(QSize taille, qreal ratio) {
+  État &e = état();
+  if (e.choisi <= 0 || e.choisi > static_cast<int>(Installés().size()))
+    return;
+  for (const auto &[t, r] : e.enCours)
+    if (t == taille && r == ratio)
+      return;
+  e.enCours.emplace_back(taille, ratio);
+  const QString fichier = Installés()[e.choisi - 1].fichier;
+  const int génération = e.génération;
+  Fil().start([fichier, taille, ratio, génération] {
+    auto images = std::make_shared<std::optional<std::vector<QImage>>>();
+    if (génération == état().génération) // a later choice makes this one moot
+      *images = RendJeu(fichier, taille, ratio);
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(),
+        [images, taille, ratio, génération] {
+          État &e = état();
+          if (génération != e.génération)
+            return;
+#ifdef __GLIBC__
+          // The parsed deck, tens of megabytes for the largest, is freed by
+          // now: its pages go back to the system rather than wait in the heap.
+          malloc_trim(0);
+#endif
+          std::erase_if(e.enCours,
+                        [&](const auto &d) { return d.first == taille && d.second == ratio; });
+          const bool premier = e.rendus.empty();
+          if (!*images) {
+            if (premier) {
+              e.choisi = 0;
+              ++e.génération;
+              e.enCours.clear();
+            }
+          } else {
+            Rendu r{taille, ratio, {}};
+            r.images.reserve((*images)->size());
+            for (const QImage &image : **images)
+              r.images.push_back(image.isNull() ? QPixmap() : QPixmap::fromImage(image));
+            // A few sizes are kept: the window's, and one or two it passed by.
+            if (e.rendus.size() >= 3)
+              e.rendus.erase(e.rendus.begin());
+            e.rendus.push_back(std::move(r));
+          }
+          if (premier && e.prêt) {
+            auto prêt = std::move(e.prêt);
+            e.prêt = nullptr;
+            prêt(images->has_value());
+          }
+          if (e.nouvellesImages)
+            e.nouvellesImages();
+        },
+        Qt::QueuedConnection);
+  });
+}
+
+} // namespace
+
+void DéfinitRacines(const QStringList &racines) {
+  État &e = état();
+  e.racines = racines;
+  e.racinesDonnées = true;
+  e.installés.reset();
+}
+
+const std::vector<JeuDeCartes> &Installés() {
+  État &e = état();
+  if (e.installés)
+    return *e.installés;
+  QStringList racines = e.racines;
+  if (!e.racinesDonnées)
+    racines = QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, "carddecks",
+                                        QStandardPaths::LocateDirectory);
+  std::vector<JeuDeCartes> jeux;
+  for (const QString &racine : racines) {
+    const QDir dossier(racine);
+    for (const QString &nom : dossier.entryList({"svg-*"}, QDir::Dirs, QDir::Name)) {
+      auto jeu = LitJeu(dossier.filePath(nom));
+      // A deck installed in two places is listed once, the user's own first.
+      if (jeu && std::none_of(jeux.begin(), jeux.end(),
+                              [&](const JeuDeCartes &j) { return j.id == jeu->id; }))
+        jeux.push_back(std::move(*jeu));
+    }
+  }
+  std::stable_sort(jeux.begin(), jeux.end(), [](const JeuDeCartes &a, const JeuDeCartes &b) {
+    return QString::localeAwareCompare(a.nom, b.nom) < 0;
+  });
+  e.installés = std::move(jeux);
+  return *e.installés;
+}
+
+int Choisi() { return état().choisi; }
+
+QString NomDuChoix(int numéro) {
+  if (numéro >= 1 && numéro <= static_cast<int>(Installés().size()))
+    return Installés()[numéro - 1].nom;
+  return "Jeu de TroisNiveaux";
+}
+
+void Choisit(int numéro, std::function<void(bool)> prêt) {
+  État &e = état();
+  if (numéro < 0 || numéro > static_cast<int>(Installés().size()))
+    numéro = 0;
+  e.choisi = numéro;
+  ++e.génération;
+  e.rendus.clear();
+  e.enCours.clear();
+  e.prêt = std::move(prêt);
+  if (numéro == 0) {
+    if (e.prêt)
+      std::exchange(e.prêt, nullptr)(true);
+    if (e.nouvellesImages)
+      e.nouvellesImages();
+    return;
+  }
+  qreal ratio = e.dernierRatio;
+  if (ratio <= 0)
+    ratio = qGuiApp ? qGuiApp->devicePixelRatio() : 1.0;
+  Demande(e.dernièreTaille, ratio);
+}
+
+void Retient(int numéro) {
+  QSettings réglages;
+  réglages.setValue("cartes/jeu",
+                    numéro >= 1 && numéro <= static_cast<int>(Installés().size())
+                        ? Installés()[numéro - 1].id
+                        : QString());
+}
+
+int Retrouve() {
+  const QString id = QSettings().value("cartes/jeu").toString();
+  const auto &jeux = Installés();
+  for (std::size_t n = 0; n < jeux.size(); ++n)
+    if (!id.isEmpty() && jeux[n].id == id)
+      return static_cast<int>(n) + 1;
+  return 0;
+}
+
+void QuandNouvellesImages(std::function<void()> rappel) {
+  état().nouvellesImages = std::move(rappel);
+}
+
+QPixmap Image(int code, QSize taille, qreal ratio) {
+  État &e = état();
+  if (code < 0 || code > 54)
+    return {};
+  e.dernièreTaille = taille;
+  e.dernierRatio = ratio;
+  if (e.choisi == 0)
+    return {};
+  for (const Rendu &r : e.rendus)
+    if (r.taille == taille && r.ratio == ratio)
+      return r.images[code];
+  Demande(taille, ratio);
+  if (e.rendus.empty() || e.rendus.back().images[code].isNull())
+    return {};
+  // Until the exact size comes, the nearest one stretched: a blur for a
+  // moment rather than a pause.
+  QPixmap étirée = e.rendus.back().images[code].scaled(taille * ratio, Qt::IgnoreAspectRatio,
+                                                       Qt::SmoothTransformation);
+  étirée.setDevicePixelRatio(ratio);
+  return étirée;
+}
+
+void AttendsLeRendu() {
+  for (int tour = 0; tour < 1000 && !état().enCours.empty(); ++tour) {
+    Fil().waitForDone();
+    QCoreApplication::sendPostedEvents(QCoreApplication::instance(), QEvent::MetaCall);
+  }
+}
+
+} // namespace jeux
