@@ -1,0 +1,264 @@
+// Card decks: every installed deck draws, a broken one leaves the game's own,
+// F8 puts the chosen deck on the table and the choice outlives the session.
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QLabel>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "core/table_state.h"
+#include "dossier_essai.h"
+#include "platform/qt/choix_du_jeu.h"
+#include "platform/qt/fenetre_table.h"
+#include "platform/qt/images.h"
+#include "platform/qt/jeux_de_cartes.h"
+#include "platform/qt/plateforme_qt.h"
+
+namespace {
+
+QStringList RacinesDuBureau() {
+  return QStandardPaths::locateAll(QStandardPaths::GenericDataLocation, "carddecks",
+                                   QStandardPaths::LocateDirectory);
+}
+
+// Settings of the tests' own, in a folder of their own: a player's chosen
+// deck must not change what the window tests see.
+class RéglagesDEssai : public ::testing::Environment {
+public:
+  void SetUp() override {
+    QCoreApplication::setOrganizationName("TroisNiveauxEssais");
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, dossier.path());
+    QSettings().clear();
+  }
+  QTemporaryDir dossier;
+};
+[[maybe_unused]] auto *const réglages = ::testing::AddGlobalTestEnvironment(new RéglagesDEssai);
+
+// The colour that the test decks give a card: one per code.
+QColor Teinte(int code) { return QColor::fromHsv((code * 37) % 360, 200, 60 + code * 3); }
+
+// A deck folder whose SVG has one plain rectangle per element named, of the
+// card's own colour.
+void ÉcritJeu(const QDir &racine, const QString &dossier, const QString &nomFr,
+              const std::vector<int> &codes, const QByteArray &svgBrut = {}) {
+  racine.mkpath(dossier);
+  const QDir d(racine.filePath(dossier));
+  QFile index(d.filePath("index.desktop"));
+  EXPECT_TRUE(index.open(QIODevice::WriteOnly));
+  index.write("[KDE Backdeck]\nName=Test " + dossier.toUtf8() + "\nName[fr]=" + nomFr.toUtf8() +
+              "\nSVG=jeu.svg\n\n[Autre]\nName=ignored\n");
+  QByteArray svg = svgBrut;
+  if (svg.isEmpty()) {
+    svg = "<svg xmlns='http://www.w3.org/2000/svg' width='6000' height='150'>";
+    for (int code : codes)
+      svg += QString("<rect id='%1' x='%2' y='0' width='100' height='150' fill='%3'/>")
+                 .arg(ÉlémentDeCarte(code))
+                 .arg(code * 110)
+                 .arg(Teinte(code).name())
+                 .toUtf8();
+    svg += "</svg>";
+  }
+  QFile fichier(d.filePath("jeu.svg"));
+  EXPECT_TRUE(fichier.open(QIODevice::WriteOnly));
+  fichier.write(svg);
+}
+
+std::vector<int> Codes(int dernier) {
+  std::vector<int> codes;
+  for (int c = 0; c <= dernier; ++c)
+    codes.push_back(c);
+  return codes;
+}
+
+// Three decks: a whole one without jokers, one that is not SVG, one without
+// its aces.
+struct JeuxDEssai {
+  QTemporaryDir racine;
+  JeuxDEssai() {
+    const QDir d(racine.path());
+    std::vector<int> sansJokers = Codes(51);
+    sansJokers.push_back(54);
+    ÉcritJeu(d, "svg-bon", "Bon jeu", sansJokers);
+    ÉcritJeu(d, "svg-casse", "Jeu cassé", {}, "pas du SVG");
+    std::vector<int> sansAs;
+    for (int c : sansJokers)
+      if (c % 13 != 12)
+        sansAs.push_back(c);
+    ÉcritJeu(d, "svg-incomplet", "Incomplet", sansAs);
+    jeux::DéfinitRacines({racine.path()});
+    jeux::Choisit(0);
+  }
+  ~JeuxDEssai() {
+    jeux::Choisit(0);
+    jeux::AttendsLeRendu();
+    jeux::DéfinitRacines(RacinesDuBureau());
+    QSettings().clear();
+  }
+  int Numéro(const QString &id) const {
+    for (std::size_t n = 0; n < jeux::Installés().size(); ++n)
+      if (jeux::Installés()[n].id == id)
+        return static_cast<int>(n) + 1;
+    return 0;
+  }
+};
+
+struct Table {
+  DossierEssai dossier;
+  struct Plateforme : PlateformeQt {
+    std::string dossier;
+    std::string DossierDuProgramme() override { return dossier; }
+  } plateforme;
+  TroisNiveaux t{plateforme};
+  FenêtreTable fenêtre{t, plateforme};
+
+  Table() {
+    plateforme.dossier = dossier.Chemin();
+    plateforme.dialogues = false;
+    plateforme.duréeParSiège = 0;
+    t.Form_Load();
+    fenêtre.Synchronise();
+    fenêtre.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&fenêtre));
+  }
+  QColor MilieuDe(const Contrôle &c) {
+    QWidget *vue = fenêtre.Vue(c);
+    return vue->grab().toImage().pixelColor(QPoint(45, 67) * vue->devicePixelRatioF());
+  }
+};
+
+bool Proches(const QColor &a, const QColor &b) {
+  return std::abs(a.red() - b.red()) <= 2 && std::abs(a.green() - b.green()) <= 2 &&
+         std::abs(a.blue() - b.blue()) <= 2;
+}
+
+} // namespace
+
+TEST(JeuxDeCartes, ChaqueJeuInstalléDessineSesCinquanteDeuxCartesEtSonDos) {
+  jeux::DéfinitRacines(RacinesDuBureau());
+  const auto &installés = jeux::Installés();
+  if (installés.empty())
+    GTEST_SKIP() << "no SVG card deck under any carddecks/ folder of "
+                 << QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation)
+                        .join(", ")
+                        .toStdString()
+                 << " (Debian: install kdegames-card-data-kf5)";
+  for (const JeuDeCartes &jeu : installés) {
+    SCOPED_TRACE(jeu.id.toStdString());
+    EXPECT_FALSE(jeu.nom.isEmpty());
+    const auto images = RendJeu(jeu.fichier, QSize(90, 135), 1);
+    ASSERT_TRUE(images.has_value());
+    QSet<QByteArray> différentes;
+    for (int code = 0; code <= 54; ++code) {
+      if (code == 52 || code == 53)
+        continue;
+      const QImage &image = (*images)[code];
+      ASSERT_FALSE(image.isNull()) << code;
+      // Something is drawn: most of the slot is covered (some decks cut
+      // their cards out), and not in one colour.
+      int couvert = 0;
+      QSet<QRgb> couleurs;
+      for (int y = 0; y < image.height(); y += 3)
+        for (int x = 0; x < image.width(); x += 3) {
+          couvert += qAlpha(image.pixel(x, y)) > 0;
+          couleurs.insert(image.pixel(x, y));
+        }
+      EXPECT_GT(couvert, 0.3 * (image.width() / 3) * (image.height() / 3)) << code;
+      EXPECT_GT(couleurs.size(), 2) << code;
+      différentes.insert(QByteArray(reinterpret_cast<const char *>(image.constBits()),
+                                    image.sizeInBytes()));
+    }
+    EXPECT_EQ(différentes.size(), 53) << "the faces and the back differ from one another";
+  }
+}
+
+TEST(JeuxDeCartes, LeDossierDUnJeuDitSonNomEtSonFichier) {
+  QTemporaryDir racine;
+  const QDir d(racine.path());
+  ÉcritJeu(d, "svg-un", "Jeu français", Codes(54));
+  const auto jeu = LitJeu(d.filePath("svg-un"));
+  ASSERT_TRUE(jeu.has_value());
+  EXPECT_EQ(jeu->id, "svg-un");
+  EXPECT_EQ(jeu->nom, "Jeu français");
+  // A deck file outside its folder, or none at all, is no deck.
+  d.mkpath("svg-dehors");
+  QFile index(d.filePath("svg-dehors/index.desktop"));
+  ASSERT_TRUE(index.open(QIODevice::WriteOnly));
+  index.write("[KDE Backdeck]\nName=Dehors\nSVG=../svg-un/jeu.svg\n");
+  index.close();
+  EXPECT_FALSE(LitJeu(d.filePath("svg-dehors")).has_value());
+  EXPECT_FALSE(LitJeu(d.filePath("absent")).has_value());
+  EXPECT_EQ(ÉlémentDeCarte(0), "2_club");
+  EXPECT_EQ(ÉlémentDeCarte(12), "1_club");
+  EXPECT_EQ(ÉlémentDeCarte(23), "queen_diamond");
+  EXPECT_EQ(ÉlémentDeCarte(35), "jack_heart");
+  EXPECT_EQ(ÉlémentDeCarte(50), "king_spade");
+  EXPECT_EQ(ÉlémentDeCarte(54), "back");
+}
+
+TEST(JeuxDeCartes, UnJeuIllisibleOuIncompletLaisseLeJeuDuProgramme) {
+  JeuxDEssai essai;
+  ASSERT_EQ(jeux::Installés().size(), 3u);
+  for (const char *id : {"svg-casse", "svg-incomplet"}) {
+    std::optional<bool> réponse;
+    jeux::Choisit(essai.Numéro(id), [&](bool réussi) { réponse = réussi; });
+    jeux::AttendsLeRendu();
+    EXPECT_EQ(réponse, false) << id;
+    EXPECT_EQ(jeux::Choisi(), 0) << id;
+    EXPECT_TRUE(jeux::Image(0, QSize(90, 135), 1).isNull()) << id;
+  }
+  // The whole deck draws its faces and back; its missing jokers are the game's own.
+  jeux::Choisit(essai.Numéro("svg-bon"));
+  jeux::AttendsLeRendu();
+  for (int code : {0, 25, 51, 54})
+    EXPECT_TRUE(Proches(jeux::Image(code, QSize(90, 135), 1).toImage().pixelColor(45, 67),
+                        Teinte(code)))
+        << code;
+  EXPECT_TRUE(jeux::Image(52, QSize(90, 135), 1).isNull());
+  // A new size shows the nearest one stretched at once, then its own.
+  EXPECT_FALSE(jeux::Image(7, QSize(135, 203), 1).isNull());
+  jeux::AttendsLeRendu();
+  EXPECT_EQ(jeux::Image(7, QSize(135, 203), 2).size(), QSize(270, 406));
+}
+
+TEST(JeuxDeCartes, F8MetLeJeuSurLaTableEtLeChoixResteDUneSessionÀLAutre) {
+  JeuxDEssai essai;
+  const int bon = essai.Numéro("svg-bon");
+  {
+    Table table;
+    auto &f = table.t.Fenêtre;
+    table.t.MontreCarte(39, 30);
+    table.fenêtre.Synchronise();
+    // F8 as many times as it takes to reach the good deck; the broken ones
+    // on the way fall back on the game's own deck.
+    for (int n = 1; n <= bon; ++n) {
+      JeuSuivant(&table.fenêtre);
+      EXPECT_TRUE(ÉtiquetteDuJeu(&table.fenêtre)->isVisible());
+      jeux::AttendsLeRendu();
+    }
+    EXPECT_EQ(ÉtiquetteDuJeu(&table.fenêtre)->text(), "Bon jeu");
+    EXPECT_EQ(jeux::Choisi(), bon);
+    EXPECT_TRUE(Proches(table.MilieuDe(f.CartesJeu[39]), Teinte(30)));
+    EXPECT_TRUE(Proches(table.MilieuDe(f.CartesJeu[0]), Teinte(54)));
+  }
+  EXPECT_EQ(QSettings().value("cartes/jeu").toString(), "svg-bon");
+  jeux::Choisit(0);
+
+  // The next session starts with it.
+  Table table;
+  jeux::AttendsLeRendu();
+  EXPECT_EQ(jeux::Choisi(), bon);
+  EXPECT_TRUE(Proches(table.MilieuDe(table.t.Fenêtre.CartesJeu[0]), Teinte(54)));
+  // F8 past the last deck comes back to the game's own, which is remembered too.
+  for (int n = bon; n <= static_cast<int>(jeux::Installés().size()); ++n) {
+    JeuSuivant(&table.fenêtre);
+    jeux::AttendsLeRendu();
+  }
+  EXPECT_EQ(jeux::Choisi(), 0);
+  EXPECT_EQ(ÉtiquetteDuJeu(&table.fenêtre)->text(), "Jeu de TroisNiveaux");
+  EXPECT_EQ(jeux::Retrouve(), 0);
+  const QImage propre = ImageBrute(PasDeCarte, QSize(90, 135), 1);
+  EXPECT_EQ(table.MilieuDe(table.t.Fenêtre.CartesJeu[0]), propre.pixelColor(45, 67));
+}
