@@ -1,13 +1,17 @@
 #include "platform/qt/panneau_historique.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPushButton>
 #include <QShortcut>
+#include <QTimer>
 #include <algorithm>
 #include <cmath>
+#include <cstdio>
+#include <cstdlib>
 
 #include "core/table_state.h"
 
@@ -280,5 +284,15 @@ PanneauHistorique *InstalleHistorique(QWidget *fenêtre, TroisNiveaux &t) {
   auto *panneau = new PanneauHistorique(t, fenêtre);
   auto *raccourci = new QShortcut(Qt::Key_F9, fenêtre);
   QObject::connect(raccourci, &QShortcut::activated, panneau, [panneau] { panneau->Bascule(); });
+  // TN_CAPTURE_HISTORIQUE=file.png: the window with the panel open, saved
+  // once the table is up, then the program ends. The README's picture.
+  if (const char *fichier = std::getenv("TN_CAPTURE_HISTORIQUE"))
+    QTimer::singleShot(2000, panneau, [fenêtre, panneau, nom = QString::fromLocal8Bit(fichier)] {
+      panneau->Bascule();
+      const bool réussi = fenêtre->grab().save(nom);
+      std::fprintf(stderr, "%s %s\n", réussi ? "Capture :" : "Capture impossible :",
+                   nom.toLocal8Bit().constData());
+      QCoreApplication::exit(réussi ? 0 : 1);
+    });
   return panneau;
 }

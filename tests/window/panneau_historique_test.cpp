@@ -1,0 +1,111 @@
+// The history panel: the figures it shows are those of the file, it opens
+// and closes, and it follows the window's size.
+#include <gtest/gtest.h>
+
+#include <QPushButton>
+#include <QTest>
+
+#include "core/table_state.h"
+#include "dossier_essai.h"
+#include "files/historique.h"
+#include "platform/qt/fenetre_table.h"
+#include "platform/qt/panneau_historique.h"
+#include "platform/qt/plateforme_qt.h"
+
+namespace {
+
+struct Table {
+  DossierEssai dossier;
+  struct Plateforme : PlateformeQt {
+    std::string dossier;
+    std::string DossierDuProgramme() override { return dossier; }
+  } plateforme;
+  TroisNiveaux t{plateforme};
+  FenêtreTable fenêtre{t, plateforme};
+
+  Table() {
+    plateforme.dossier = dossier.Chemin();
+    plateforme.dialogues = false;
+    plateforme.duréeParSiège = 0;
+    t.Form_Load();
+    fenêtre.Synchronise();
+    fenêtre.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&fenêtre));
+  }
+  PanneauHistorique *Panneau() {
+    return fenêtre.findChild<PanneauHistorique *>("panneauHistorique");
+  }
+};
+
+} // namespace
+
+TEST(PanneauHistorique, SesChiffresSontCeuxDuFichier) {
+  Table table;
+  table.dossier.Écrit("Historique", "2026-11-23 21:00:00;DEBUTANT;-5;21;-7;-9;-5;21;-7;-9\r\n"
+                                    "ligne abîmée\r\n"
+                                    "2026-11-23 21:05:00;EXPERT;18;-6;-6;-6;13;15;-13;-15\r\n"
+                                    "2026-11-23 21:06:00;SCORES A 0\r\n"
+                                    "2026-11-23 21:09:00;EXPERT;2;0;1;-3;2;0;1;-3\r\n");
+  // And one deal played at the table, which the file gains.
+  table.t.NouveauJeu_MouseUp();
+  table.t.Joue_Click();
+  table.fenêtre.Synchronise();
+
+  PanneauHistorique *panneau = table.Panneau();
+  ASSERT_NE(panneau, nullptr);
+  EXPECT_FALSE(panneau->isVisible());
+  panneau->Bascule();
+  ASSERT_TRUE(panneau->isVisible());
+
+  const auto lecture = historique::Lit();
+  ASSERT_EQ(lecture.entrées.size(), 5u);
+  const historique::Figures f = historique::Calcule(lecture.entrées);
+  const auto &tableau = panneau->Tableau();
+  ASSERT_EQ(tableau.size(), 5u);
+  EXPECT_EQ(tableau[0][0], "Joueur");
+  for (int s = 0; s <= 3; ++s) {
+    const auto &siège = f.sièges[s];
+    const auto &rangée = tableau[s + 1];
+    EXPECT_EQ(rangée[0].toStdString(), table.t.Fenêtre.JoueursLabel[s].Caption);
+    EXPECT_EQ(rangée[1], QString::number(siège.donnes));
+    EXPECT_DOUBLE_EQ(QString(rangée[2]).replace(',', '.').toDouble(), std::round(siège.moyenne * 100) / 100)
+        << s;
+    EXPECT_EQ(rangée[3], QString::number(siège.meilleure));
+    EXPECT_EQ(rangée[4], QString::number(siège.pire));
+    EXPECT_EQ(rangée[5], QString::number(siège.score));
+    EXPECT_EQ(rangée[5].toInt(), table.t.Scores[s]) << "the history ends on the table's score";
+  }
+  EXPECT_EQ(tableau[1][3], QString::number(std::max(18, lecture.entrées[4].totaux[0])));
+
+  // It draws without fault and stays open until F9 or its button.
+  EXPECT_FALSE(panneau->grab().isNull());
+  QTest::mouseClick(panneau->BoutonFermer(), Qt::LeftButton);
+  EXPECT_FALSE(panneau->isVisible());
+  panneau->Bascule();
+  EXPECT_TRUE(panneau->isVisible());
+  panneau->Bascule();
+  EXPECT_FALSE(panneau->isVisible());
+}
+
+TEST(PanneauHistorique, SansFichierOuÀToutesLesTaillesIlSeMontre) {
+  Table table;
+  PanneauHistorique *panneau = table.Panneau();
+  panneau->Bascule();
+  EXPECT_EQ(panneau->Figures().donnes, 0);
+  EXPECT_EQ(panneau->Tableau()[1][2], "—");
+  EXPECT_FALSE(panneau->grab().isNull());
+  // In a window of another shape the panel keeps the middle, inside it.
+  table.fenêtre.setMinimumSize(0, 0);
+  table.fenêtre.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+  for (const QSize taille : {QSize(1600, 900), QSize(640, 600)}) {
+    table.fenêtre.resize(taille);
+    QCoreApplication::processEvents();
+    const QRect r = panneau->geometry();
+    EXPECT_TRUE(QRect(QPoint(0, 0), taille).contains(r)) << taille.width();
+    EXPECT_NEAR(r.center().x(), taille.width() / 2, 2);
+    EXPECT_NEAR(r.center().y(), taille.height() / 2, 2);
+    EXPECT_NEAR(double(r.width()) / r.height(), 4.0 / 3, 0.02);
+    EXPECT_GT(r.width(), taille.width() * 0.6);
+    EXPECT_LT(panneau->BoutonFermer()->geometry().bottom(), r.height());
+  }
+}
