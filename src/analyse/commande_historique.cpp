@@ -68,7 +68,8 @@ int CommandeHistorique(const std::vector<std::string> &arguments, std::ostream &
       fichier = a;
       fichierDonné = true;
     } else {
-      erreurs << "Argument inconnu : « " << a << " ». Voir troisniveaux-analyse historique --help.\n";
+      erreurs << "Argument inconnu : « " << a
+              << " ». Voir troisniveaux-analyse historique --help.\n";
       return 2;
     }
   }
@@ -96,7 +97,8 @@ int CommandeHistorique(const std::vector<std::string> &arguments, std::ostream &
          << f.remises << (f.remises > 1 ? " remises à zéro" : " remise à zéro");
   if (lecture.lignesIgnorées > 0)
     sortie << " (" << lecture.lignesIgnorées
-           << (lecture.lignesIgnorées > 1 ? " lignes illisibles passées)" : " ligne illisible passée)");
+           << (lecture.lignesIgnorées > 1 ? " lignes illisibles passées)"
+                                          : " ligne illisible passée)");
   sortie << "\n\n";
   sortie << "Joueur          Donnes   Moyenne  Meilleure   Pire   Score\n";
   for (int s = 0; s <= 3; ++s) {

@@ -33,8 +33,9 @@ std::vector<std::string_view> Champs(std::string_view ligne) {
 
 bool DateValide(std::string_view date) {
   return date.size() == 19 &&
-         QDateTime::fromString(QString::fromLatin1(date.data(), static_cast<qsizetype>(date.size())),
-                               "yyyy-MM-dd HH:mm:ss")
+         QDateTime::fromString(
+             QString::fromLatin1(date.data(), static_cast<qsizetype>(date.size())),
+             "yyyy-MM-dd HH:mm:ss")
              .isValid();
 }
 
@@ -202,11 +203,10 @@ bool Ajoute(const Entrée &e, const std::string &nom) {
   QSaveFile fichier(QString::fromStdString(nom));
   // Flushed and checked before the commit, which would otherwise put an
   // empty file in place of the old one on a full disk.
-  const bool réussi =
-      fichier.open(QIODevice::WriteOnly) &&
-      fichier.write(tout.data(), static_cast<qint64>(tout.size())) ==
-          static_cast<qint64>(tout.size()) &&
-      fichier.flush() && fichier.commit();
+  const bool réussi = fichier.open(QIODevice::WriteOnly) &&
+                      fichier.write(tout.data(), static_cast<qint64>(tout.size())) ==
+                          static_cast<qint64>(tout.size()) &&
+                      fichier.flush() && fichier.commit();
   if (!réussi)
     fichier.cancelWriting();
   return réussi;

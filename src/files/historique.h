@@ -19,7 +19,7 @@ inline constexpr const char *NomDuFichier = "Historique";
 inline constexpr std::size_t LignesGardées = 5000;
 
 struct Entrée {
-  std::string date; // "aaaa-mm-jj hh:mm:ss", local time
+  std::string date;    // "aaaa-mm-jj hh:mm:ss", local time
   bool remise = false; // a SCORES A 0: no mode, totals nor scores
   uint8_t mode = 1;    // 1 DEBUTANT, 0 EXPERT
   int32_t totaux[4] = {};
@@ -44,9 +44,9 @@ Lecture Lit(const std::string &nom = NomDuFichier);
 // What the table and the analysis command show of the history.
 struct FiguresSiège {
   int donnes = 0;
-  double moyenne = 0; // points per deal
+  double moyenne = 0;              // points per deal
   int32_t meilleure = 0, pire = 0; // the best and worst deal's total
-  int32_t score = 0; // after the last line: the score the history ends on
+  int32_t score = 0;               // after the last line: the score the history ends on
 };
 struct Figures {
   int donnes = 0, remises = 0;

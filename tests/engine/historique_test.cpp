@@ -39,15 +39,15 @@ const std::vector<std::vector<int>> DonneExperte = {
 TEST(Historique, LesLignesFontLAllerRetour) {
   const historique::Entrée entrées[] = {
       Donne("2026-11-23 21:04:05", 0, {-5, 21, -7, -9}, {-5, 21, -7, -9}),
-      Donne("2026-01-01 00:00:00", 1, {18, -6, -6, -6},
-            {2147483647, -2147483647 - 1, 0, 12}),
+      Donne("2026-01-01 00:00:00", 1, {18, -6, -6, -6}, {2147483647, -2147483647 - 1, 0, 12}),
       Remise("2026-12-31 23:59:59")};
   for (const auto &e : entrées) {
     const std::string ligne = historique::Ligne(e);
     ASSERT_TRUE(ligne.ends_with("\r\n")) << ligne;
     EXPECT_EQ(historique::LitLigne(ligne), e) << ligne;
   }
-  EXPECT_EQ(historique::Ligne(entrées[0]), "2026-11-23 21:04:05;EXPERT;-5;21;-7;-9;-5;21;-7;-9\r\n");
+  EXPECT_EQ(historique::Ligne(entrées[0]),
+            "2026-11-23 21:04:05;EXPERT;-5;21;-7;-9;-5;21;-7;-9\r\n");
   EXPECT_EQ(historique::Ligne(entrées[2]), "2026-12-31 23:59:59;SCORES A 0\r\n");
 }
 
@@ -89,8 +89,8 @@ TEST(Historique, LeFichierGardeSesDernièresLignes) {
   const std::string nom = d.Chemin() + "/Historique";
   std::string octets;
   for (std::size_t n = 0; n < historique::LignesGardées; ++n)
-    octets += historique::Ligne(Donne("2026-11-23 21:04:05", 1, {int32_t(n), 0, 0, -int32_t(n)},
-                                      {0, 0, 0, 0}));
+    octets += historique::Ligne(
+        Donne("2026-11-23 21:04:05", 1, {int32_t(n), 0, 0, -int32_t(n)}, {0, 0, 0, 0}));
   d.Écrit("Historique", octets);
   ASSERT_TRUE(historique::Ajoute(Remise("2026-11-24 08:00:00"), nom));
   const auto lecture = historique::Lit(nom);

@@ -167,8 +167,8 @@ TEST(JeuxDeCartes, ChaqueJeuInstalléDessineSesCinquanteDeuxCartesEtSonDos) {
         }
       EXPECT_GT(couvert, 0.3 * (image.width() / 3) * (image.height() / 3)) << code;
       EXPECT_GT(couleurs.size(), 2) << code;
-      différentes.insert(QByteArray(reinterpret_cast<const char *>(image.constBits()),
-                                    image.sizeInBytes()));
+      différentes.insert(
+          QByteArray(reinterpret_cast<const char *>(image.constBits()), image.sizeInBytes()));
     }
     EXPECT_EQ(différentes.size(), 53) << "the faces and the back differ from one another";
   }
@@ -213,8 +213,8 @@ TEST(JeuxDeCartes, UnJeuIllisibleOuIncompletLaisseLeJeuDuProgramme) {
   jeux::Choisit(essai.Numéro("svg-bon"));
   jeux::AttendsLeRendu();
   for (int code : {0, 25, 51, 54})
-    EXPECT_TRUE(Proches(jeux::Image(code, QSize(90, 135), 1).toImage().pixelColor(45, 67),
-                        Teinte(code)))
+    EXPECT_TRUE(
+        Proches(jeux::Image(code, QSize(90, 135), 1).toImage().pixelColor(45, 67), Teinte(code)))
         << code;
   EXPECT_TRUE(jeux::Image(52, QSize(90, 135), 1).isNull());
   // A new size shows the nearest one stretched at once, then its own.

@@ -68,7 +68,8 @@ TEST(PanneauHistorique, SesChiffresSontCeuxDuFichier) {
     const auto &rangée = tableau[s + 1];
     EXPECT_EQ(rangée[0].toStdString(), table.t.Fenêtre.JoueursLabel[s].Caption);
     EXPECT_EQ(rangée[1], QString::number(siège.donnes));
-    EXPECT_DOUBLE_EQ(QString(rangée[2]).replace(',', '.').toDouble(), std::round(siège.moyenne * 100) / 100)
+    EXPECT_DOUBLE_EQ(QString(rangée[2]).replace(',', '.').toDouble(),
+                     std::round(siège.moyenne * 100) / 100)
         << s;
     EXPECT_EQ(rangée[3], QString::number(siège.meilleure));
     EXPECT_EQ(rangée[4], QString::number(siège.pire));

@@ -119,8 +119,9 @@ void MesureLesJeux(QWidget *fenêtre) {
       const qint64 durée = m->chrono.elapsed();
       // The table repaints with the new cards before the figure is taken.
       fenêtre->repaint();
-      std::fprintf(stderr, "%-26s %s en %5lld ms, attente maximale des événements %3lld ms, "
-                           "mémoire résidente %ld ko\n",
+      std::fprintf(stderr,
+                   "%-26s %s en %5lld ms, attente maximale des événements %3lld ms, "
+                   "mémoire résidente %ld ko\n",
                    jeux::NomDuChoix(m->numéro).toUtf8().constData(), réussi ? "prêt " : "ÉCHEC",
                    static_cast<long long>(durée), static_cast<long long>(m->plusLongRetard),
                    MémoireRésidente());

@@ -516,7 +516,7 @@ void FenêtreTable::Raccourcis() {
   Vue(f.VoirRègles[0])->setToolTip("Règles du jeu — touche F1");
   Vue(f.TextScroll[0])->setToolTip("Page précédente — touche Page préc.");
   Vue(f.TextScroll[1])->setToolTip("Page suivante — touche Page suiv.");
-  InstalleChoixDuJeu(this);     // F8: the card decks
+  InstalleChoixDuJeu(this);    // F8: the card decks
   InstalleHistorique(this, t); // F9: the history of the scores
 }
 

@@ -18,7 +18,7 @@
 #endif
 
 QString ÉlémentDeCarte(int code) {
-  static const char *const rangs[13] = {"2", "3", "4",    "5",     "6",    "7", "8",
+  static const char *const rangs[13] = {"2", "3",  "4",    "5",     "6",    "7", "8",
                                         "9", "10", "jack", "queen", "king", "1"};
   static const char *const couleurs[4] = {"club", "diamond", "heart", "spade"};
   if (code >= 0 && code <= 51)
@@ -280,10 +280,9 @@ void Choisit(int numéro, std::function<void(bool)> prêt) {
 
 void Retient(int numéro) {
   QSettings réglages;
-  réglages.setValue("cartes/jeu",
-                    numéro >= 1 && numéro <= static_cast<int>(Installés().size())
-                        ? Installés()[numéro - 1].id
-                        : QString());
+  réglages.setValue("cartes/jeu", numéro >= 1 && numéro <= static_cast<int>(Installés().size())
+                                      ? Installés()[numéro - 1].id
+                                      : QString());
 }
 
 int Retrouve() {

@@ -53,8 +53,7 @@ double Pas(double étendue, int voulu) {
 
 } // namespace
 
-PanneauHistorique::PanneauHistorique(TroisNiveaux &t, QWidget *fenêtre)
-    : QWidget(fenêtre), t(t) {
+PanneauHistorique::PanneauHistorique(TroisNiveaux &t, QWidget *fenêtre) : QWidget(fenêtre), t(t) {
   setObjectName("panneauHistorique");
   // Opaque: the stars moving under it cost no repaint of the chart.
   setAttribute(Qt::WA_OpaquePaintEvent);
@@ -96,10 +95,11 @@ void PanneauHistorique::Lit() {
 void PanneauHistorique::Place() {
   const QWidget *fenêtre = parentWidget();
   const QSize boîte = QSize(4, 3).scaled(fenêtre->size(), Qt::KeepAspectRatio);
-  const QSize taille(static_cast<int>(boîte.width() * 0.86), static_cast<int>(boîte.height() * 0.86));
-  setGeometry(QRect(QPoint((fenêtre->width() - taille.width()) / 2,
-                           (fenêtre->height() - taille.height()) / 2),
-                    taille));
+  const QSize taille(static_cast<int>(boîte.width() * 0.86),
+                     static_cast<int>(boîte.height() * 0.86));
+  setGeometry(QRect(
+      QPoint((fenêtre->width() - taille.width()) / 2, (fenêtre->height() - taille.height()) / 2),
+      taille));
 }
 
 bool PanneauHistorique::eventFilter(QObject *objet, QEvent *e) {
@@ -112,8 +112,8 @@ void PanneauHistorique::resizeEvent(QResizeEvent *) {
   const int h = height();
   fermer->setFont(PolicePixels(h * 0.032, true));
   const QSize bouton(static_cast<int>(h * 0.24), static_cast<int>(h * 0.065));
-  fermer->setGeometry(QRect(QPoint(width() - bouton.width() - h / 40, height() - bouton.height() - h / 40),
-                            bouton));
+  fermer->setGeometry(QRect(
+      QPoint(width() - bouton.width() - h / 40, height() - bouton.height() - h / 40), bouton));
   image = QPixmap();
 }
 
@@ -124,8 +124,9 @@ void PanneauHistorique::paintEvent(QPaintEvent *e) {
     Dessine();
   QPainter p(this);
   for (const QRect &r : e->region())
-    p.drawPixmap(r, image, QRectF(QRectF(r).topLeft() * devicePixelRatioF(),
-                                  QSizeF(r.size()) * devicePixelRatioF()));
+    p.drawPixmap(
+        r, image,
+        QRectF(QRectF(r).topLeft() * devicePixelRatioF(), QSizeF(r.size()) * devicePixelRatioF()));
 }
 
 void PanneauHistorique::Dessine() {
@@ -242,7 +243,8 @@ void PanneauHistorique::Dessine() {
     std::sort(std::begin(ordre), std::end(ordre), [&](int a, int b) { return fins[a] < fins[b]; });
     qreal places[4];
     for (int k = 0; k < 4; ++k)
-      places[ordre[k]] = k == 0 ? fins[ordre[0]] : std::max(fins[ordre[k]], places[ordre[k - 1]] + écart);
+      places[ordre[k]] =
+          k == 0 ? fins[ordre[0]] : std::max(fins[ordre[k]], places[ordre[k - 1]] + écart);
     const qreal débordement = places[ordre[3]] - (graphe.bottom() + h * 0.02);
     if (débordement > 0)
       for (qreal &y : places)
@@ -250,8 +252,8 @@ void PanneauHistorique::Dessine() {
     p.setFont(PolicePixels(h * 0.028, true));
     for (int s = 0; s <= 3; ++s) {
       p.setPen(CouleurDuSiège(s));
-      p.drawText(QRectF(graphe.right() + h * 0.02, places[s] - écart / 2, l - graphe.right() - marge,
-                        écart),
+      p.drawText(QRectF(graphe.right() + h * 0.02, places[s] - écart / 2,
+                        l - graphe.right() - marge, écart),
                  Qt::AlignLeft | Qt::AlignVCenter, tableau[s + 1][0]);
     }
   }
@@ -269,14 +271,16 @@ void PanneauHistorique::Dessine() {
     p.drawText(QRectF(marge, y, largeur * bords[0], rangée), Qt::AlignLeft | Qt::AlignVCenter,
                tableau[r][0]);
     for (int c = 1; c < 6; ++c)
-      p.drawText(QRectF(marge + largeur * bords[c - 1], y, largeur * (bords[c] - bords[c - 1]), rangée),
-                 Qt::AlignRight | Qt::AlignVCenter, tableau[r][c]);
+      p.drawText(
+          QRectF(marge + largeur * bords[c - 1], y, largeur * (bords[c] - bords[c - 1]), rangée),
+          Qt::AlignRight | Qt::AlignVCenter, tableau[r][c]);
   }
   if (lecture.lignesIgnorées > 0) {
     p.setFont(PolicePixels(h * 0.024));
     p.setPen(QColor(255, 150, 150));
-    p.drawText(QRectF(marge, h - h * 0.07, l * 0.6, h * 0.05), Qt::AlignLeft | Qt::AlignVCenter,
-               QString("%1 ligne(s) illisible(s) du fichier passée(s)").arg(lecture.lignesIgnorées));
+    p.drawText(
+        QRectF(marge, h - h * 0.07, l * 0.6, h * 0.05), Qt::AlignLeft | Qt::AlignVCenter,
+        QString("%1 ligne(s) illisible(s) du fichier passée(s)").arg(lecture.lignesIgnorées));
   }
 }
 
@@ -290,8 +294,8 @@ PanneauHistorique *InstalleHistorique(QWidget *fenêtre, TroisNiveaux &t) {
     QTimer::singleShot(2000, panneau, [fenêtre, panneau, nom = QString::fromLocal8Bit(fichier)] {
       panneau->Bascule();
       const bool réussi = fenêtre->grab().save(nom);
-      std::fprintf(stderr, "%s %s\n", réussi ? "Capture :" : "Capture impossible :",
-                   nom.toLocal8Bit().constData());
+      std::fprintf(stderr, "%s %s\n",
+                   réussi ? "Capture :" : "Capture impossible :", nom.toLocal8Bit().constData());
       QCoreApplication::exit(réussi ? 0 : 1);
     });
   return panneau;
