@@ -11,6 +11,7 @@
 #include <QSvgRenderer>
 #include <QThreadPool>
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <memory>
 #ifdef __GLIBC__
@@ -130,8 +131,8 @@ struct État {
   std::optional<std::vector<JeuDeCartes>> installés;
   int choisi = 0;
   // Bumped at every choice: pictures of an earlier choice that arrive late
-  // are dropped.
-  int génération = 0;
+  // are dropped. The rendering thread reads it too.
+  std::atomic<int> génération = 0;
   std::vector<Rendu> rendus;
   std::vector<std::pair<QSize, qreal>> enCours;
   std::function<void(bool)> prêt;
