@@ -72,13 +72,31 @@ std::optional<JeuDeCartes> LitJeu(const QString &dossier) {
   return jeu;
 }
 
-std::optional<std::vector<QImage>> RendJeu(const QString &fichier, QSize taille, qreal ratio) {
-  // Decks use SVG features Qt draws without; its warnings say nothing to a player.
-  static const bool silence = [] {
-    QLoggingCategory::setFilterRules("qt.svg.warning=false");
+namespace {
+
+QLoggingCategory::CategoryFilter filtrePrécédent = nullptr;
+
+void FiltreSvg(QLoggingCategory *catégorie) {
+  if (filtrePrécédent)
+    filtrePrécédent(catégorie);
+  if (qstrcmp(catégorie->categoryName(), "qt.svg") == 0)
+    catégorie->setEnabled(QtWarningMsg, false);
+}
+
+// Decks use SVG features that Qt draws without; its warnings say nothing to
+// a player. A filter chained to any other keeps the rules set elsewhere.
+void TaisLesAvertissementsSvg() {
+  static const bool fait = [] {
+    filtrePrécédent = QLoggingCategory::installFilter(FiltreSvg);
     return true;
   }();
-  (void)silence;
+  (void)fait;
+}
+
+} // namespace
+
+std::optional<std::vector<QImage>> RendJeu(const QString &fichier, QSize taille, qreal ratio) {
+  TaisLesAvertissementsSvg();
   QSvgRenderer rendu(fichier);
   if (!rendu.isValid() || taille.isEmpty())
     return std::nullopt;
