@@ -221,6 +221,13 @@ TEST(JeuxDeCartes, UnJeuIllisibleOuIncompletLaisseLeJeuDuProgramme) {
   EXPECT_FALSE(jeux::Image(7, QSize(135, 203), 1).isNull());
   jeux::AttendsLeRendu();
   EXPECT_EQ(jeux::Image(7, QSize(135, 203), 2).size(), QSize(270, 406));
+  jeux::AttendsLeRendu();
+  // The deck's file gone, the next size fails and the game's own deck returns.
+  ASSERT_TRUE(QFile::remove(jeux::Installés()[essai.Numéro("svg-bon") - 1].fichier));
+  jeux::Image(7, QSize(60, 90), 1);
+  jeux::AttendsLeRendu();
+  EXPECT_EQ(jeux::Choisi(), 0);
+  EXPECT_TRUE(jeux::Image(7, QSize(90, 135), 1).isNull());
 }
 
 TEST(JeuxDeCartes, F8MetLeJeuSurLaTableEtLeChoixResteDUneSessionÀLAutre) {

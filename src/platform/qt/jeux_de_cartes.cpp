@@ -205,11 +205,12 @@ void Demande(QSize taille, qreal ratio) {
                         [&](const auto &d) { return d.first == taille && d.second == ratio; });
           const bool premier = e.rendus.empty();
           if (!*images) {
-            if (premier) {
-              e.choisi = 0;
-              ++e.génération;
-              e.enCours.clear();
-            }
+            // Unreadable, even at a later size (the file gone meanwhile):
+            // the game's own deck, rather than a new try at every paint.
+            e.choisi = 0;
+            ++e.génération;
+            e.enCours.clear();
+            e.rendus.clear();
           } else {
             Rendu r{taille, ratio, {}};
             r.images.reserve((*images)->size());
