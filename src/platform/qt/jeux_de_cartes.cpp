@@ -298,15 +298,27 @@ void Choisit(int numéro, std::function<void(bool)> prêt) {
   Demande(e.dernièreTaille, ratio);
 }
 
+namespace {
+
+// The user's settings of the game: those the application names, or the
+// game's own name where none is given (Qt would file them under an
+// "Unknown Organization").
+std::unique_ptr<QSettings> Réglages() {
+  if (QCoreApplication::organizationName().isEmpty())
+    return std::make_unique<QSettings>("TroisNiveaux", "TroisNiveaux");
+  return std::make_unique<QSettings>();
+}
+
+} // namespace
+
 void Retient(int numéro) {
-  QSettings réglages;
-  réglages.setValue("cartes/jeu", numéro >= 1 && numéro <= static_cast<int>(Installés().size())
-                                      ? Installés()[numéro - 1].id
-                                      : QString());
+  Réglages()->setValue("cartes/jeu", numéro >= 1 && numéro <= static_cast<int>(Installés().size())
+                                         ? Installés()[numéro - 1].id
+                                         : QString());
 }
 
 int Retrouve() {
-  const QString id = QSettings().value("cartes/jeu").toString();
+  const QString id = Réglages()->value("cartes/jeu").toString();
   const auto &jeux = Installés();
   for (std::size_t n = 0; n < jeux.size(); ++n)
     if (!id.isEmpty() && jeux[n].id == id)
