@@ -45,8 +45,8 @@ std::optional<std::vector<std::string>> LignesAuDémarrage(const std::string &no
   return std::nullopt;
 }
 
-// "ne contient aucun nom", "contient seulement deux scores"... A file cut
-// short by the size limit has more, but is far larger than the game writes.
+// "ne contient aucun nom", "contient seulement deux scores"... A file that
+// goes on past the size limit may hold more, but is no file the game wrote.
 std::string TropPeu(std::size_t lus, const char *singulier, const char *pluriel, bool tronqué) {
   if (tronqué)
     return " est trop grand pour être un fichier du jeu (plus de 1 Mo).";
