@@ -196,9 +196,11 @@ struct Pilote {
     environnement.insert("DISPLAY", QString::fromStdString(écran.nom));
     environnement.insert("QT_QPA_PLATFORM", "xcb");
     // Its ways out are abrupt by design: what the toolkit leaves unfreed
-    // then is no finding of the leak checker.
+    // then is no finding of the leak checker, and a crash of the toolkit
+    // must show as a crash, not as the checker's own exit.
     const QString asan = environnement.value("ASAN_OPTIONS");
-    environnement.insert("ASAN_OPTIONS", (asan.isEmpty() ? "" : asan + ":") + "detect_leaks=0");
+    environnement.insert("ASAN_OPTIONS", (asan.isEmpty() ? "" : asan + ":") +
+                                             "detect_leaks=0:handle_segv=0:handle_abort=0");
     processus.setProcessEnvironment(environnement);
     processus.start(TN_PILOTE_AFFICHAGE, {QString::fromStdString(dossier.Chemin())});
     QByteArray ligne;
@@ -208,8 +210,7 @@ struct Pilote {
   }
   // The exit status, or -1 when it did not end by itself.
   int Fin() {
-    const bool fini =
-        processus.state() == QProcess::NotRunning || processus.waitForFinished(20000);
+    const bool fini = processus.state() == QProcess::NotRunning || processus.waitForFinished(20000);
     erreurs = processus.readAllStandardError().toStdString();
     if (!fini)
       return -1;

@@ -55,6 +55,9 @@ TEST(Avis, LeMessageHorsLigneTientEntierDansSonÉtiquette) {
 }
 
 TEST(Avis, LeDialogueDuModeDAffichageASesBoutonsUnisEtSonLogoDécalé) {
+#ifdef TN_SANS_CHROMIUM
+  GTEST_SKIP() << "the dialog's logo starts the browser, which is not ours to check here";
+#endif
   QWidget *vu = nullptr;
   QRect logo, cadre;
   QColor coins[2][4];

@@ -17,13 +17,17 @@ namespace {
 int tube[2] = {-1, -1};
 
 // All a signal handler may safely do: note the signal in a pipe that the
-// event loop watches.
+// event loop watches. A second one of the same kind acts at once, should the
+// loop never come round.
 void NoteLeSignal(int signal) {
   const int errnoAvant = errno;
   const char octet = static_cast<char>(signal);
   if (write(tube[1], &octet, 1) < 0) {
     // The pipe is full: a signal is waiting there already.
   }
+  struct sigaction défaut {};
+  défaut.sa_handler = SIG_DFL;
+  sigaction(signal, &défaut, nullptr);
   errno = errnoAvant;
 }
 
