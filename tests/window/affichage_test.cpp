@@ -80,24 +80,6 @@ public:
     return XRRTimes(affichage, DefaultScreen(affichage), &configuration);
   }
 
-  // Sets the screen to this size, if it is offered.
-  bool Choisit(int largeur, int hauteur) {
-    XRRScreenConfiguration *c = XRRGetScreenInfo(affichage, DefaultRootWindow(affichage));
-    int nombre = 0;
-    Rotation rotation;
-    XRRScreenSize *tailles = XRRConfigSizes(c, &nombre);
-    XRRConfigCurrentConfiguration(c, &rotation);
-    bool fait = false;
-    for (int i = 0; i < nombre && !fait; ++i)
-      if (tailles[i].width == largeur && tailles[i].height == hauteur)
-        fait =
-            XRRSetScreenConfig(affichage, c, DefaultRootWindow(affichage), static_cast<SizeID>(i),
-                               rotation, CurrentTime) == RRSetConfigSuccess;
-    XRRFreeScreenConfigInfo(c);
-    XSync(affichage, False);
-    return fait;
-  }
-
   std::string nom;
   bool prêt = false;
 
@@ -123,6 +105,26 @@ private:
     XSync(affichage, False);
   }
 
+public:
+  // Sets the screen to this size, if it is offered.
+  bool Choisit(int largeur, int hauteur) {
+    XRRScreenConfiguration *c = XRRGetScreenInfo(affichage, DefaultRootWindow(affichage));
+    int nombre = 0;
+    Rotation rotation;
+    XRRScreenSize *tailles = XRRConfigSizes(c, &nombre);
+    XRRConfigCurrentConfiguration(c, &rotation);
+    bool fait = false;
+    for (int i = 0; i < nombre && !fait; ++i)
+      if (tailles[i].width == largeur && tailles[i].height == hauteur)
+        fait =
+            XRRSetScreenConfig(affichage, c, DefaultRootWindow(affichage), static_cast<SizeID>(i),
+                               rotation, CurrentTime) == RRSetConfigSuccess;
+    XRRFreeScreenConfigInfo(c);
+    XSync(affichage, False);
+    return fait;
+  }
+
+private:
   QProcess serveur;
   Display *affichage = nullptr;
 };
