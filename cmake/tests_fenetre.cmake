@@ -11,3 +11,11 @@ if(TESTS_FENETRE AND TN_SANITIZE)
   # The browser's own processes are not ours to check under the sanitizers.
   target_compile_definitions(troisniveaux-tests-fenetre PRIVATE TN_SANS_CHROMIUM)
 endif()
+if(TESTS_FENETRE)
+  # A cut-down session that the display tests start, signal and cut off.
+  add_executable(troisniveaux-pilote-affichage tests/window/pilote/pilote_affichage.cpp)
+  target_link_libraries(troisniveaux-pilote-affichage PRIVATE troisniveaux-fenetre)
+  add_dependencies(troisniveaux-tests-fenetre troisniveaux-pilote-affichage)
+  target_compile_definitions(troisniveaux-tests-fenetre PRIVATE
+    TN_PILOTE_AFFICHAGE="$<TARGET_FILE:troisniveaux-pilote-affichage>")
+endif()

@@ -12,6 +12,7 @@
 #include "platform/qt/fenetre_table.h"
 #include "platform/qt/pages_web.h"
 #include "platform/qt/plateforme_qt.h"
+#include "platform/qt/sortie.h"
 
 namespace {
 
@@ -64,6 +65,7 @@ int main(int argc, char *argv[]) {
 
   PlateformeQt plateforme;
   TroisNiveaux table(plateforme);
+  GardeLesSorties(table);
   FenêtreTable fenêtre(table, plateforme);
   plateforme.pages = std::make_unique<PagesWeb>(fenêtre.Vue(table.Fenêtre.Pub0Pic),
                                                 fenêtre.Vue(table.Fenêtre.Pub1Pic),

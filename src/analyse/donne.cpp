@@ -13,6 +13,7 @@
 
 #include "analyse/texte.h"
 #include "core/table_state.h"
+#include "files/format.h"
 #include "platform/sans_fenetre.h"
 
 namespace {
@@ -230,16 +231,18 @@ int CommandeDonne(const std::vector<std::string> &arguments) {
   Options options;
   if (const auto statut = LitArguments(arguments, options))
     return *statut;
-  std::ifstream entrée(options.fichier, std::ios::binary);
-  std::error_code e;
-  if (!entrée || !std::filesystem::is_regular_file(options.fichier, e)) {
+  // Only a regular file is read: a pipe or a device would block or never end.
+  const auto lecture = format::LitFichier(options.fichier, 1024 * 1024);
+  if (lecture.état == format::Lecture::PasUnFichier) {
+    std::cerr << "Le fichier « " << options.fichier
+              << " » ne peut pas être lu : ce n'est pas un fichier ordinaire.\n";
+    return 2;
+  }
+  if (lecture.état != format::Lecture::Lu) {
     std::cerr << "Le fichier « " << options.fichier << " » ne peut pas être lu.\n";
     return 2;
   }
-  std::string octets;
-  octets.resize(64 * 1024);
-  entrée.read(octets.data(), static_cast<std::streamsize>(octets.size()));
-  octets.resize(static_cast<std::size_t>(entrée.gcount()));
+  const std::string &octets = lecture.octets;
 
   Dossier dossier;
   if (dossier.chemin.empty() ||

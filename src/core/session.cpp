@@ -34,8 +34,12 @@ void TroisNiveaux::Form_Load() {
   for (int i = 0; i < 8; ++i)
     BaseMain[i] = bases[i];
 
+  if (!erreur)
+    NettoieFichiersTemporaires();
   if (!LitNoms() || !LitScores()) {
     DémarrageRefusé = true;
+    // The display mode may have been changed already: the session ends here.
+    RestaureRésolution();
     plateforme.SignaleErreur(ErreurDémarrage);
     return;
   }

@@ -102,6 +102,9 @@ public:
   // Where each arrangement's levels fall among the seat's 5- and 3-card sets,
   // derived from Rangements at the first sweep (computer/).
   std::shared_ptr<const IndexBalayage> IndexDuBalayage;
+  // What the deal's totals really added to Scores: less than the totals where
+  // a score met its 32-bit limit. The solution view takes back just that.
+  int32_t AjoutéAuxScores[4] = {};
   // Data files whose last write failed and was told to the player: told once,
   // until a write of that file works again.
   std::vector<std::string> FichiersNonÉcrits;
@@ -171,9 +174,12 @@ public:
   void ÉcritNoms(const std::string (&noms)[4]);
   void ÉcritScores();
   void LitTempsDuMode();   // last step of Init
-  void ÉcritTempsDuMode(); // end of a showdown
+  // End of a showdown; a replay passes over a failure silently.
+  void ÉcritTempsDuMode(bool signaleÉchec = true);
   void ÉcritTirage();
   void LitTirage();        // Rejoue_MouseUp, every failure passed over
+  // Removes what a write cut short by a crash left beside the data files.
+  void NettoieFichiersTemporaires();
 
   // Shows picture `code` in slot `slot`; a code with no picture is passed over.
   void MontreCarte(int slot, int code);
@@ -183,5 +189,5 @@ public:
   void DémarreHorloge();
   // The start and the end of a deal, shared by JOUER, GO and the replay.
   void OuvreLaDonne();
-  void Abattage();
+  void Abattage(bool signaleÉchecTemps = true);
 };

@@ -1,8 +1,12 @@
 #include "files/format.h"
 
+#include <algorithm>
+#include <cerrno>
 #include <charconv>
 #include <cstdlib>
-#include <fstream>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace format {
 
@@ -106,14 +110,24 @@ std::vector<std::string> Lignes(std::string_view octets) {
 }
 
 std::optional<int64_t> Entier(std::string_view ligne) {
-  ligne = SansBlancs(ligne);
-  if (ligne.empty() || ligne.front() == '+')
+  const LectureEntier lu = EntierOuDépassement(ligne);
+  if (lu.sorte != LectureEntier::Entier)
     return std::nullopt;
+  return lu.valeur;
+}
+
+LectureEntier EntierOuDépassement(std::string_view ligne) {
+  ligne = SansBlancs(ligne);
+  const std::string_view chiffres = ligne.substr(!ligne.empty() && ligne.front() == '-' ? 1 : 0);
+  if (chiffres.empty() || chiffres.find_first_not_of("0123456789") != std::string_view::npos)
+    return {LectureEntier::PasUnEntier, 0};
   int64_t valeur = 0;
   const auto [fin, erreur] = std::from_chars(ligne.data(), ligne.data() + ligne.size(), valeur);
+  if (erreur == std::errc::result_out_of_range)
+    return {LectureEntier::TropGrand, 0};
   if (erreur != std::errc() || fin != ligne.data() + ligne.size())
-    return std::nullopt;
-  return valeur;
+    return {LectureEntier::PasUnEntier, 0};
+  return {LectureEntier::Entier, valeur};
 }
 
 std::optional<std::string> Chaîne(std::string_view ligne) {
@@ -142,23 +156,66 @@ double NombreEnTête(std::string_view texte) {
   return std::strtod(std::string(texte.substr(0, n)).c_str(), nullptr);
 }
 
-std::optional<std::vector<std::string>> LitLignes(const std::string &nom, std::size_t limite) {
-  std::ifstream fichier(nom, std::ios::binary);
-  if (!fichier)
+Lecture LitFichier(const std::string &nom, std::size_t limite) {
+  Lecture lecture;
+  struct stat état {};
+  if (stat(nom.c_str(), &état) != 0) {
+    lecture.état = errno == ENOENT ? Lecture::Absent : Lecture::Illisible;
+    return lecture;
+  }
+  if (!S_ISREG(état.st_mode)) {
+    lecture.état = Lecture::PasUnFichier;
+    return lecture;
+  }
+  // Not blocking, in case a pipe took the file's place since the look above.
+  const int fd = open(nom.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+  if (fd < 0) {
+    lecture.état = Lecture::Illisible;
+    return lecture;
+  }
+  if (fstat(fd, &état) != 0 || !S_ISREG(état.st_mode)) {
+    close(fd);
+    lecture.état = Lecture::PasUnFichier;
+    return lecture;
+  }
+  // Read by pieces: the file is small, and its size on disk may change.
+  std::string octets;
+  char morceau[16384];
+  while (octets.size() <= limite) {
+    const ssize_t n = read(fd, morceau, sizeof morceau);
+    if (n < 0 && errno == EINTR)
+      continue;
+    if (n < 0) {
+      close(fd);
+      lecture.état = Lecture::Illisible;
+      return lecture;
+    }
+    if (n == 0)
+      break;
+    octets.append(morceau, static_cast<std::size_t>(n));
+  }
+  close(fd);
+  lecture.tronqué = octets.size() > limite;
+  octets.resize(std::min(octets.size(), limite));
+  lecture.octets = std::move(octets);
+  lecture.état = Lecture::Lu;
+  return lecture;
+}
+
+std::optional<std::vector<std::string>> LitLignes(const std::string &nom, std::size_t limite,
+                                                  bool *tronqué) {
+  Lecture lecture = LitFichier(nom, limite);
+  if (tronqué)
+    *tronqué = lecture.tronqué;
+  if (lecture.état != Lecture::Lu)
     return std::nullopt;
-  std::string octets(limite + 1, '\0');
-  fichier.read(octets.data(), static_cast<std::streamsize>(limite + 1));
-  if (fichier.bad())
-    return std::nullopt;
-  octets.resize(static_cast<std::size_t>(fichier.gcount()));
-  if (octets.size() <= limite)
-    return Lignes(octets);
-  // The file goes on past the limit: the line the limit cuts is left out, so
-  // that no number is read with its last digits missing.
-  octets.resize(limite);
-  const std::size_t fin = octets.rfind('\n');
-  octets.resize(fin == std::string::npos ? 0 : fin + 1);
-  return Lignes(octets);
+  if (lecture.tronqué) {
+    // The line the limit cuts is left out, so that no number is read with
+    // its last digits missing.
+    const std::size_t fin = lecture.octets.rfind('\n');
+    lecture.octets.resize(fin == std::string::npos ? 0 : fin + 1);
+  }
+  return Lignes(lecture.octets);
 }
 
 std::string LigneEntier(int64_t valeur) { return std::to_string(valeur) + "\r\n"; }
@@ -167,6 +224,8 @@ std::string LigneChaîne(std::string_view utf8) {
   // The format escapes nothing: a quote or a line break inside a name would
   // cut it short or shift every line after it.
   std::string octets = VersWindows1252(utf8);
+  if (octets.size() > LongueurMaximaleNom)
+    octets.resize(LongueurMaximaleNom);
   for (char &c : octets)
     if (c == '"' || static_cast<unsigned char>(c) < 0x20)
       c = '?';

@@ -22,14 +22,35 @@ std::vector<std::string> Lignes(std::string_view octets);
 
 // A whole number, blanks allowed around it; nothing else.
 std::optional<int64_t> Entier(std::string_view ligne);
+// The same, telling a line of digits too long for 64 bits from one that is
+// no whole number at all.
+struct LectureEntier {
+  enum { Entier, PasUnEntier, TropGrand } sorte;
+  int64_t valeur;
+};
+LectureEntier EntierOuDépassement(std::string_view ligne);
 // A name between double quotes, with nothing else on the line.
 std::optional<std::string> Chaîne(std::string_view ligne);
 // The leading decimal number of a text, 0 when it begins with anything else.
 double NombreEnTête(std::string_view texte);
 
-// The lines within the first `limite` bytes of a file; nullopt when it
-// cannot be opened or read.
-std::optional<std::vector<std::string>> LitLignes(const std::string &nom, std::size_t limite);
+// The most characters a name keeps in the file: as many as a name box takes.
+constexpr std::size_t LongueurMaximaleNom = 32767;
+
+// A data file's first `limite` bytes. Only a regular file (or a link to one)
+// is read; anything else is never opened, so a pipe or a device can neither
+// block the game nor be read as a data file.
+struct Lecture {
+  enum { Lu, Absent, PasUnFichier, Illisible } état = Absent;
+  std::string octets;
+  bool tronqué = false; // the file goes on past the limit
+};
+Lecture LitFichier(const std::string &nom, std::size_t limite);
+
+// The lines within the first `limite` bytes of a file, a line cut by the
+// limit left out; nullopt when it is no regular file or cannot be read.
+std::optional<std::vector<std::string>> LitLignes(const std::string &nom, std::size_t limite,
+                                                  bool *tronqué = nullptr);
 
 // One line written as the files want it.
 std::string LigneEntier(int64_t valeur);

@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <limits>
+
 #include "showdown/abattage.h"
 
 namespace abattage {
@@ -13,7 +16,12 @@ void Totalise(TroisNiveaux &t) {
     f.TotalLabel[s].Caption = std::to_string(t.TotauxDonne[s]);
     if (t.ScoresRemisà0)
       continue;
-    t.Scores[s] += t.TotauxDonne[s];
+    // A score stops at the 32-bit limits rather than wrap round.
+    const int64_t somme = int64_t{t.Scores[s]} + t.TotauxDonne[s];
+    const int32_t score = static_cast<int32_t>(std::clamp<int64_t>(
+        somme, std::numeric_limits<int32_t>::min(), std::numeric_limits<int32_t>::max()));
+    t.AjoutéAuxScores[s] = static_cast<int32_t>(int64_t{score} - t.Scores[s]);
+    t.Scores[s] = score;
     f.ScoreLabel[s].ForeColor = t.Scores[s] < 0 ? 0x0000FF : 0;
     f.TotalLabel[s].ForeColor = t.TotauxDonne[s] < 0 ? 0x0000FF : 0;
     f.ScoreLabel[s].Caption = std::to_string(t.Scores[s]);

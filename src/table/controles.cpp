@@ -196,8 +196,9 @@ Contrôles::Contrôles() {
   // ---- Connection notice and advert panels
   Panneau(NonConnectéPic, "NonConnectéPic", nullptr, (15360 - 7095) / 2, (11520 - 3615) / 2, 7095,
           3615, 0x000000, false);
+  // At 9.75 points the whole notice fits the label's 385 pixels.
   Étiquette(NonConnectéLbl, "NonConnectéLbl", &NonConnectéPic, 600, 1440, 5775, 375, 0xFFFFFF,
-            0x000000, Arial(12), Alignement::Centre);
+            0x000000, Arial(9.75), Alignement::Centre);
   NonConnectéLbl.Caption = " Vous devez être connecté à internet pour utiliser ce logiciel";
   Bouton(NonConnectéCmd, "NonConnectéCmd", &NonConnectéPic, 2640, 2280, 1695, 615, "OK");
   Panneau(LogoFondPic, "LogoFondPic", &NonConnectéPic, 2040, 360, 3000, 570, 0x0000FF);

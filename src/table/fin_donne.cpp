@@ -16,8 +16,9 @@ void TroisNiveaux::Joue_Click() {
 
 // The end of a deal, after GO or a replay's sweep: every layout valued, the
 // human's pairs counted, the showdown paid, the clock's time kept for the
-// next deal of this mode, and the table given back to the buttons.
-void TroisNiveaux::Abattage() {
+// next deal of this mode, and the table given back to the buttons. A replay
+// writes the time as it reads Tirage: a failure goes untold.
+void TroisNiveaux::Abattage(bool signaleÉchecTemps) {
   Décompte1();
   Décompte2();
   Décompte3();
@@ -29,7 +30,7 @@ void TroisNiveaux::Abattage() {
   AfficheRésultat();
   Fenêtre.TempsLabel.Caption = "";
   Fenêtre.TempsTimer.Enabled = false;
-  ÉcritTempsDuMode();
+  ÉcritTempsDuMode(signaleÉchecTemps);
   for (Contrôle *c : {&Fenêtre.NouveauJeu, &Fenêtre.Rejoue, &Fenêtre.NomsJoueurs, &Fenêtre.Scoresà0,
                       &Fenêtre.Mode})
     c->Enabled = true;

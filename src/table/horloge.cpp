@@ -46,7 +46,9 @@ void TroisNiveaux::EtoilesTimer_Timer() {
     EtoileY[i] += EtoileVitesse[i];
     if (EtoileY[i] >= Fenêtre.Form.Height) {
       EtoileY[i] = 0;
-      EtoileX[i] = std::floor(static_cast<float>(Générateur.Tire() * Fenêtre.Form.Width));
+      // Whole part first, as at the start: a draw just under 1 would round up
+      // to the window's edge as a float.
+      EtoileX[i] = static_cast<float>(std::floor(Générateur.Tire() * Fenêtre.Form.Width));
     }
   }
 }

@@ -20,5 +20,5 @@ void TroisNiveaux::Rejoue_MouseUp() {
     Fenêtre.TempsTimer.Enabled = false;
     return;
   }
-  Abattage();
+  Abattage(false);
 }

@@ -14,7 +14,7 @@ void TroisNiveaux::VoirOrdi_Click(int index) {
     f.Arrêt.Enabled = false;
   for (int siège = 0; siège <= 3; ++siège) {
     if (!ScoresRemisà0) {
-      Scores[siège] -= TotauxDonne[siège];
+      Scores[siège] -= AjoutéAuxScores[siège];
       f.ScoreLabel[siège].ForeColor = Scores[siège] < 0 ? 255 : 0;
       f.ScoreLabel[siège].Caption = std::to_string(Scores[siège]);
     }

@@ -200,11 +200,11 @@ TEST(Fichiers, UnTirageManquantCourtOuAbîméNeFaitJamaisTomberLaPartie) {
   EXPECT_EQ(s.t.Mains[3][0], 200);
   EXPECT_EQ(s.t.Fenêtre.CartesJeu[39].Picture, 7);
 
-  // Nothing past the first 64 KiB is read, and a line cut there not at all.
+  // Nothing past the first MiB is read, and a line cut there not at all.
   std::string quarante;
   for (int i = 0; i < 40; ++i)
     quarante += "4\r\n";
-  s.dossier.Écrit("Tirage", quarante + std::string(70000, '0') + "9\r\n1\r\n");
+  s.dossier.Écrit("Tirage", quarante + std::string(1 << 20, '0') + "9\r\n1\r\n");
   s.t.LitTirage();
   EXPECT_EQ(s.t.Mains[3][12], 4);
 }

@@ -1,9 +1,14 @@
 #include <gtest/gtest.h>
 
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QStandardPaths>
+#include <csignal>
 #include <cstring>
 #include <optional>
+#include <sys/types.h>
+
+#include "dossier_essai.h"
 
 #include "core/table_state.h"
 #include "platform/qt/affichage.h"
@@ -63,6 +68,12 @@ public:
     XRRFreeScreenConfigInfo(c);
     return taille;
   }
+  // Cuts off the client that owns this window, as the server does to a
+  // program whose connection is lost.
+  void CoupeLeClient(unsigned long fenêtre) {
+    XKillClient(affichage, fenêtre);
+    XSync(affichage, False);
+  }
   // When the mode was last set: unchanged means nothing was sent.
   Time DernierChangement() {
     Time configuration;
@@ -93,6 +104,9 @@ private:
                      XRRCreateMode(affichage, DefaultRootWindow(affichage), &mode));
     XSync(affichage, False);
   }
+
+public:
+  // Sets the screen to this size, if it is offered.
   bool Choisit(int largeur, int hauteur) {
     XRRScreenConfiguration *c = XRRGetScreenInfo(affichage, DefaultRootWindow(affichage));
     int nombre = 0;
@@ -110,6 +124,7 @@ private:
     return fait;
   }
 
+private:
   QProcess serveur;
   Display *affichage = nullptr;
 };
@@ -169,5 +184,86 @@ TEST(AffichageX11, RienNeChangeQuandRienNEstÀChangerOuQueLaTailleManque) {
   EXPECT_EQ(écran.Taille(), std::make_pair(1024, 768));
   EXPECT_FALSE(LitModeX11(":4095")) << "no display there";
 }
+
+#ifdef TN_PILOTE_AFFICHAGE
+namespace {
+
+// The cut-down session on the virtual screen, in a folder of its own; it has
+// changed the mode once it has printed its window.
+struct Pilote {
+  QProcess processus;
+  unsigned long fenêtre = 0;
+  Pilote(const ÉcranVirtuel &écran, const DossierEssai &dossier) {
+    QProcessEnvironment environnement = QProcessEnvironment::systemEnvironment();
+    environnement.insert("DISPLAY", QString::fromStdString(écran.nom));
+    environnement.insert("QT_QPA_PLATFORM", "xcb");
+    // Its ways out are abrupt by design: what the toolkit leaves unfreed
+    // then is no finding of the leak checker, and a crash of the toolkit
+    // must show as a crash, not as the checker's own exit.
+    const QString asan = environnement.value("ASAN_OPTIONS");
+    environnement.insert("ASAN_OPTIONS", (asan.isEmpty() ? "" : asan + ":") +
+                                             "detect_leaks=0:handle_segv=0:handle_abort=0");
+    processus.setProcessEnvironment(environnement);
+    processus.start(TN_PILOTE_AFFICHAGE, {QString::fromStdString(dossier.Chemin())});
+    QByteArray ligne;
+    while (!ligne.contains('\n') && processus.waitForReadyRead(20000))
+      ligne += processus.readAllStandardOutput();
+    fenêtre = ligne.trimmed().toULong();
+  }
+  // The exit status, or -1 when it did not end by itself.
+  int Fin() {
+    const bool fini = processus.state() == QProcess::NotRunning || processus.waitForFinished(20000);
+    erreurs = processus.readAllStandardError().toStdString();
+    if (!fini)
+      return -1;
+    return processus.exitStatus() == QProcess::NormalExit ? processus.exitCode() : -1;
+  }
+  std::string erreurs;
+};
+
+} // namespace
+
+TEST(AffichageX11, LeModeRevientÀChaqueSortieQuUnProgrammePeutVoir) {
+  ÉcranVirtuel écran;
+  if (!écran.prêt)
+    GTEST_SKIP() << "no virtual X screen with RandR here";
+  DossierEssai dossier;
+  const auto bas = std::make_pair(1024, 600), haut = std::make_pair(1024, 768);
+
+  for (int signal : {SIGTERM, SIGINT, SIGHUP}) {
+    Pilote pilote(écran, dossier);
+    ASSERT_NE(pilote.fenêtre, 0u) << "signal " << signal;
+    EXPECT_EQ(écran.Taille(), haut);
+    kill(static_cast<pid_t>(pilote.processus.processId()), signal);
+    EXPECT_EQ(pilote.Fin(), 128 + signal);
+    EXPECT_EQ(écran.Taille(), bas) << "signal " << signal;
+  }
+
+  // The X connection cut: the toolkit exits on its own and the mode comes
+  // back. At times the toolkit crashes instead, which no program can catch:
+  // such a run is put right by hand and tried again.
+  for (int essai = 0; essai < 5; ++essai) {
+    Pilote pilote(écran, dossier);
+    ASSERT_NE(pilote.fenêtre, 0u);
+    EXPECT_EQ(écran.Taille(), haut);
+    écran.CoupeLeClient(pilote.fenêtre);
+    const int statut = pilote.Fin();
+    if (statut < 0 && pilote.processus.exitStatus() == QProcess::CrashExit) {
+      écran.Choisit(1024, 600);
+      continue;
+    }
+    EXPECT_EQ(statut, 1) << pilote.erreurs;
+    EXPECT_EQ(écran.Taille(), bas) << "connection lost";
+    break;
+  }
+
+  // A Scores damaged after the change: the session does not start.
+  dossier.Écrit("Scores", "1\r\nx\r\n");
+  Pilote pilote(écran, dossier);
+  EXPECT_EQ(pilote.fenêtre, 0u);
+  EXPECT_EQ(pilote.Fin(), 1) << pilote.erreurs;
+  EXPECT_EQ(écran.Taille(), bas) << "failed start";
+}
+#endif
 
 #endif

@@ -130,9 +130,29 @@ EnregistrementAffichage LitModeAffichage() {
   return DepuisLÉcran();
 }
 
+namespace {
+// The mode before this program's first change, and whether a change of ours
+// stands now.
+std::optional<EnregistrementAffichage> modeDeDépart;
+bool modeChangé = false;
+} // namespace
+
 // Only X11 lets a program choose the screen's mode; elsewhere the window
 // keeps its fixed size and the screen stays as it is.
 void AppliqueModeAffichage(const EnregistrementAffichage &e) {
-  if (SurX11())
-    AppliqueModeX11(e, nullptr);
+  if (!SurX11())
+    return;
+  if (!modeDeDépart)
+    modeDeDépart = LitModeX11(nullptr);
+  if (AppliqueModeX11(e, nullptr) && modeDeDépart)
+    modeChangé =
+        e.dmPelsWidth != modeDeDépart->dmPelsWidth || e.dmPelsHeight != modeDeDépart->dmPelsHeight;
+}
+
+// Needs no application object: it may run once everything else is gone.
+void RemetLeModeDeDépart() {
+  if (!modeChangé || !modeDeDépart)
+    return;
+  modeChangé = false;
+  AppliqueModeX11(*modeDeDépart, nullptr);
 }

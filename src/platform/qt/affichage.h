@@ -11,3 +11,8 @@ void AppliqueModeAffichage(const EnregistrementAffichage &enregistrement);
 // tests on a virtual screen. Empty or false when there is no RandR at hand.
 std::optional<EnregistrementAffichage> LitModeX11(const char *nomAffichage);
 bool AppliqueModeX11(const EnregistrementAffichage &enregistrement, const char *nomAffichage);
+
+// The screen's mode as this program found it, put back if a change of ours
+// still stands. For ways out that never reach the game's own end (an exit
+// from deep inside the toolkit when the X connection is lost).
+void RemetLeModeDeDépart();

@@ -18,12 +18,18 @@ public:
     setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
     setFixedSize(320, 139);
     auto *logoFond = new QWidget(this);
+    logoFond->setObjectName("LogoFondPic");
     logoFond->setGeometry(61, 12, 200, 38);
     logoFond->setAutoFillBackground(true);
     QPalette fond = logoFond->palette();
     fond.setColor(QPalette::Window, Couleur(0x0000FF));
     logoFond->setPalette(fond);
-    pages = std::make_unique<PagesWeb>(nullptr, nullptr, logoFond);
+    // The logo's view stands 2 pixels up and left of its panel, which clips
+    // it; the view is made inside this frame at the frame's corner.
+    auto *logoWeb = new QWidget(logoFond);
+    logoWeb->setObjectName("LogoWeb");
+    logoWeb->setGeometry(-2, -2, 226, 60);
+    pages = std::make_unique<PagesWeb>(nullptr, nullptr, logoWeb);
     pages->Navigue(VueWeb::LogoWeb, "logomdc200.htm");
     const auto étiquette = [this](const char *texte, int top) {
       auto *l = new QLabel(QString::fromUtf8(texte), this);
@@ -43,7 +49,12 @@ public:
       QFont f("Liberation Sans");
       f.setPixelSize(12); // the longer caption fits its button
       b->setFont(f);
-      b->setStyleSheet(QString("background-color: %1").arg(Couleur(couleur).name()));
+      // Flat in its own colour, with a raised edge that sinks when pressed:
+      // a colour alone would let the style paint its gradient over it.
+      const QString c = Couleur(couleur).name();
+      b->setStyleSheet(QString("QPushButton { background-color: %1; border: 2px outset %1; }"
+                               "QPushButton:pressed { border-style: inset; }")
+                           .arg(c));
       return b;
     };
     connect(bouton("Je suis d'accord", 165, 0xC0FFC0), &QPushButton::clicked, this,

@@ -1,0 +1,100 @@
+// The connection notice and the display-mode dialog as they are drawn.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QImage>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include "core/table_state.h"
+#include "dossier_essai.h"
+#include "platform/qt/dialogue_resolution.h"
+#include "platform/qt/fenetre_table.h"
+#include "platform/qt/plateforme_qt.h"
+
+namespace {
+
+// The columns of an image where some pixel is bright: where text is drawn.
+std::pair<int, int> ÉtendueDuTexte(const QImage &image) {
+  int gauche = image.width(), droite = -1;
+  for (int x = 0; x < image.width(); ++x)
+    for (int y = 0; y < image.height(); ++y)
+      if (qGray(image.pixel(x, y)) > 128) {
+        gauche = std::min(gauche, x);
+        droite = std::max(droite, x);
+      }
+  return {gauche, droite};
+}
+
+} // namespace
+
+TEST(Avis, LeMessageHorsLigneTientEntierDansSonÉtiquette) {
+  DossierEssai dossier;
+  struct Plateforme : PlateformeQt {
+    std::string dossier;
+    std::string DossierDuProgramme() override { return dossier; }
+  } plateforme;
+  plateforme.dossier = dossier.Chemin();
+  plateforme.dialogues = false;
+  TroisNiveaux t(plateforme);
+  FenêtreTable fenêtre(t, plateforme);
+  t.Form_Load();
+  t.Fenêtre.NonConnectéPic.Visible = true;
+  fenêtre.Synchronise();
+  fenêtre.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&fenêtre));
+
+  QWidget *étiquette = fenêtre.Vue(t.Fenêtre.NonConnectéLbl);
+  ASSERT_EQ(étiquette->width(), 385);
+  const QImage image = étiquette->grab().toImage().scaled(étiquette->size());
+  const auto [gauche, droite] = ÉtendueDuTexte(image);
+  EXPECT_GE(gauche, 4) << "the first letters are cut off";
+  EXPECT_LE(droite, étiquette->width() - 5) << "the last letters are cut off";
+  EXPECT_GT(droite - gauche, 300) << "the notice is drawn";
+}
+
+TEST(Avis, LeDialogueDuModeDAffichageASesBoutonsUnisEtSonLogoDécalé) {
+#ifdef TN_SANS_CHROMIUM
+  GTEST_SKIP() << "the dialog's logo starts the browser, which is not ours to check here";
+#endif
+  QWidget *vu = nullptr;
+  QRect logo, cadre;
+  QColor coins[2][4];
+  QTimer::singleShot(0, [&] {
+    vu = QApplication::activeModalWidget();
+    if (!vu)
+      return;
+    static_cast<void>(QTest::qWaitForWindowExposed(vu));
+    if (QWidget *l = vu->findChild<QWidget *>("LogoWeb")) {
+      logo = l->geometry();
+      cadre = l->parentWidget()->geometry();
+    }
+    QPushButton *oui = nullptr;
+    int n = 0;
+    for (QPushButton *b : vu->findChildren<QPushButton *>()) {
+      const QImage image = b->grab().toImage().scaled(b->size());
+      // Inside the edge, away from the caption: top and bottom rows.
+      const QPoint points[4] = {
+          {6, 5}, {b->width() - 7, 5}, {6, b->height() - 6}, {b->width() - 7, b->height() - 6}};
+      const int i = b->text() == "Je suis d'accord" ? 0 : 1;
+      for (int k = 0; k < 4; ++k)
+        coins[i][k] = image.pixelColor(points[k]);
+      if (i == 0)
+        oui = b;
+      ++n;
+    }
+    if (oui && n == 2)
+      QTest::mouseClick(oui, Qt::LeftButton);
+    else
+      vu->close();
+  });
+  EXPECT_TRUE(DemandeAccordRésolution());
+  ASSERT_NE(vu, nullptr) << "the dialog is modal";
+  EXPECT_EQ(logo, QRect(-2, -2, 226, 60)) << "-30, -30 twips, 3390 x 900";
+  EXPECT_EQ(cadre, QRect(61, 12, 200, 38));
+  for (int k = 0; k < 4; ++k) {
+    EXPECT_EQ(coins[0][k], QColor(0xC0, 0xFF, 0xC0)) << "point " << k;
+    EXPECT_EQ(coins[1][k], QColor(0xFF, 0xC0, 0xC0)) << "point " << k;
+  }
+}
