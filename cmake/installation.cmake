@@ -1,7 +1,10 @@
 # Installing the game for every user of a machine, and its Debian package.
 # A packager can send the binaries elsewhere (-DCMAKE_INSTALL_BINDIR=games);
 # the game finds its installed files from its own folder.
-set(CMAKE_INSTALL_DOCDIR "share/doc/troisniveaux" CACHE PATH "Documentation (DATAROOTDIR/doc/troisniveaux)")
+# A system install follows Debian: games' binaries go to /usr/games.
+if(CMAKE_INSTALL_PREFIX STREQUAL "/usr" AND NOT CMAKE_INSTALL_BINDIR)
+  set(CMAKE_INSTALL_BINDIR "games" CACHE PATH "User executables (games for a system install)")
+endif()
 include(GNUInstallDirs)
 
 # One reverse-DNS id names the desktop entry, the AppStream data and the icon.
@@ -33,8 +36,10 @@ endif()
 configure_file(data/troisniveaux.desktop.in ${TN_ID_APPLICATION}.desktop @ONLY)
 configure_file(data/troisniveaux.metainfo.xml.in ${TN_ID_APPLICATION}.metainfo.xml @ONLY)
 configure_file(data/copyright.in copyright @ONLY)
+set(TN_MAINTENEUR "TroisNiveaux <troisniveaux@users.noreply.github.com>" CACHE STRING "Package maintainer")
+configure_file(data/changelog.in changelog @ONLY)
 
-# Manual pages, compressed as distributions ship them.
+# Manual pages and the changelog, compressed as distributions ship them.
 find_program(GZIP_PROGRAM gzip REQUIRED)
 set(PAGES_MANUEL)
 foreach(page troisniveaux troisniveaux-analyse)
@@ -43,7 +48,10 @@ foreach(page troisniveaux troisniveaux-analyse)
     DEPENDS data/man/${page}.6 VERBATIM)
   list(APPEND PAGES_MANUEL ${CMAKE_BINARY_DIR}/${page}.6.gz)
 endforeach()
-add_custom_target(pages-manuel ALL DEPENDS ${PAGES_MANUEL})
+add_custom_command(OUTPUT changelog.gz
+  COMMAND ${GZIP_PROGRAM} -9n -c ${CMAKE_BINARY_DIR}/changelog > changelog.gz
+  DEPENDS ${CMAKE_BINARY_DIR}/changelog VERBATIM)
+add_custom_target(pages-manuel ALL DEPENDS ${PAGES_MANUEL} changelog.gz)
 
 install(TARGETS troisniveaux troisniveaux-analyse RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(FILES data/Noms data/Scores data/pub0.htm data/pub1.htm data/logomdc200.htm
@@ -60,13 +68,15 @@ foreach(taille 16 22 24 32 48 64 128 256)
           RENAME ${TN_ID_APPLICATION}.png)
 endforeach()
 install(FILES ${PAGES_MANUEL} DESTINATION ${CMAKE_INSTALL_MANDIR}/man6)
-install(FILES ${CMAKE_BINARY_DIR}/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
+# Named for the package, as Debian wants it.
+install(FILES ${CMAKE_BINARY_DIR}/copyright ${CMAKE_BINARY_DIR}/changelog.gz
+        DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/troisniveaux)
 
 # cpack -G DEB, from a build configured with CMAKE_INSTALL_PREFIX=/usr.
 set(CPACK_PACKAGE_NAME troisniveaux)
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_PACKAGE_VENDOR "TroisNiveaux")
-set(CPACK_PACKAGE_CONTACT "TroisNiveaux <troisniveaux@users.noreply.github.com>" CACHE STRING "Package maintainer")
+set(CPACK_PACKAGE_CONTACT "${TN_MAINTENEUR}")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "card game: thirteen cards on three levels")
 set(CPACK_PACKAGE_DESCRIPTION
   "Trois Niveaux is a card game in French for one player against three computer\nseats. Each deal gives every seat 13 cards to lay on three levels of 5, 5 and\n3 cards, each level stronger than the next by poker order; every level is\nthen paid against the same level of the other seats. The computer plays by\nexhaustive search over all 72072 ways to lay its cards.\n\nThe package also holds troisniveaux-analyse, which shows on the command line\nthe layout the computer plays for a hand and replays a whole deal.")
