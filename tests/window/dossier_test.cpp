@@ -36,11 +36,11 @@ struct Machine {
     Écrit(installé + "/Noms", Noms);
     Écrit(installé + "/Scores", Scores);
     Écrit(installé + "/pub0.htm", "<p>page</p>");
-    QFile::setPermissions(installé + "/Noms", QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
+    QFile::setPermissions(installé + "/Noms",
+                          QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
   }
   DossierDesDonnéesChoisi Choisit() const {
-    return ChoisitDossierDesDonnées(programme, personnel,
-                                    {racine.filePath("ailleurs"), installé});
+    return ChoisitDossierDesDonnées(programme, personnel, {racine.filePath("ailleurs"), installé});
   }
 };
 
@@ -70,7 +70,8 @@ TEST(DossierDesDonnées, LePremierLancementInstalléCopieLesDéfautsChezLeJoueur
   EXPECT_TRUE(QFileInfo(m.personnel + "/Noms").isWritable()) << "the copy is the player's";
   EXPECT_FALSE(QFileInfo::exists(m.personnel + "/pub0.htm")) << "pages stay installed";
   // Nothing is left beside it but the folder itself.
-  EXPECT_EQ(QDir(QFileInfo(m.personnel).absolutePath()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+  EXPECT_EQ(QDir(QFileInfo(m.personnel).absolutePath())
+                .entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
             QStringList{"troisniveaux"});
 
   // The next start keeps what the player has, a damaged file included:

@@ -44,10 +44,9 @@ QString CréeDossierPersonnel(const QString &personnel, const QString &source) {
     QFile::setPermissions(copie, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup |
                                      QFile::ReadOther);
   }
-  QFile::setPermissions(provisoire.path(), QFile::ReadOwner | QFile::WriteOwner |
-                                               QFile::ExeOwner | QFile::ReadGroup |
-                                               QFile::ExeGroup | QFile::ReadOther |
-                                               QFile::ExeOther);
+  QFile::setPermissions(provisoire.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
+                                               QFile::ReadGroup | QFile::ExeGroup |
+                                               QFile::ReadOther | QFile::ExeOther);
   if (!QDir().rename(provisoire.path(), personnel)) {
     // Another copy of the game, started at the same moment, may have won.
     if (QFileInfo(personnel).isDir())
@@ -60,8 +59,7 @@ QString CréeDossierPersonnel(const QString &personnel, const QString &source) {
 
 } // namespace
 
-DossierDesDonnéesChoisi ChoisitDossierDesDonnées(const QString &programme,
-                                                 const QString &personnel,
+DossierDesDonnéesChoisi ChoisitDossierDesDonnées(const QString &programme, const QString &personnel,
                                                  const QStringList &installés) {
   DossierDesDonnéesChoisi choix;
   if (QFileInfo::exists(QDir(programme).filePath("Noms"))) {
@@ -104,16 +102,16 @@ QStringList DossiersInstallés() {
   };
   ajoute(QDir(QCoreApplication::applicationDirPath()).filePath(TN_DONNEES_RELATIVES));
   // The first standard location is the player's own: it never holds defaults.
-  const QStringList système = QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation);
+  const QStringList système =
+      QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation);
   for (qsizetype i = 1; i < système.size(); ++i)
     ajoute(QDir(système[i]).filePath(NomDuProgramme));
   return dossiers;
 }
 
 const DossierDesDonnéesChoisi &DossierDeCetteSession() {
-  static const DossierDesDonnéesChoisi choix =
-      ChoisitDossierDesDonnées(QCoreApplication::applicationDirPath(),
-                               QStandardPaths::writableLocation(QStandardPaths::AppDataLocation),
-                               DossiersInstallés());
+  static const DossierDesDonnéesChoisi choix = ChoisitDossierDesDonnées(
+      QCoreApplication::applicationDirPath(),
+      QStandardPaths::writableLocation(QStandardPaths::AppDataLocation), DossiersInstallés());
   return choix;
 }

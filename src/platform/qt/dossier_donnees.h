@@ -7,18 +7,17 @@
 #include <QStringList>
 
 struct DossierDesDonnéesChoisi {
-  QString dossier;       // where Noms, Scores, Temps1, Temps2 and Tirage lie
-  QString pages;         // where the game's own web pages lie
+  QString dossier; // where Noms, Scores, Temps1, Temps2 and Tirage lie
+  QString pages;   // where the game's own web pages lie
   bool portable = false;
-  bool créé = false;     // the player's folder was made during this choice
-  QString erreur;        // why the player's folder could not be made, in French
+  bool créé = false; // the player's folder was made during this choice
+  QString erreur;    // why the player's folder could not be made, in French
 };
 
 // The choice itself. `programme` is the program's folder, `personnel` the
 // player's data folder, `installés` the folders that may hold the installed
 // defaults and pages, best first.
-DossierDesDonnéesChoisi ChoisitDossierDesDonnées(const QString &programme,
-                                                 const QString &personnel,
+DossierDesDonnéesChoisi ChoisitDossierDesDonnées(const QString &programme, const QString &personnel,
                                                  const QStringList &installés);
 
 // The installed folders of this program: ../share/<name> from the program's

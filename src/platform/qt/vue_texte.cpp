@@ -79,8 +79,7 @@ void VueTexte::Montre(const QByteArray &octets) {
 }
 
 // One GET, never redirected: a 3xx answer or an error leaves `suite` uncalled.
-QNetworkReply *VueTexte::Récupère(const QUrl &url,
-                                  std::function<void(const QByteArray &)> suite) {
+QNetworkReply *VueTexte::Récupère(const QUrl &url, std::function<void(const QByteArray &)> suite) {
   QNetworkRequest requête(url);
   requête.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
                        QNetworkRequest::ManualRedirectPolicy);

@@ -32,8 +32,8 @@ private:
   QNetworkAccessManager &réseau;
   std::function<bool(const QUrl &)> autorise;
   QUrl adresse;
-  QString texte;                    // the page shown, kept to lay it out again
-  QHash<QUrl, QByteArray> reçues;   // pictures fetched from the server
+  QString texte;                  // the page shown, kept to lay it out again
+  QHash<QUrl, QByteArray> reçues; // pictures fetched from the server
   QSet<QUrl> demandées;
   QNetworkReply *enCours = nullptr; // the page being fetched
 };
