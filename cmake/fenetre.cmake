@@ -18,10 +18,10 @@ if(X11_FOUND AND X11_Xrandr_FOUND)
   target_compile_definitions(troisniveaux-fenetre PUBLIC TN_XRANDR)
 endif()
 
-# The advert panels: Qt WebEngine, unless left out. The server's base address
-# is a setting; empty means the program's own folder, where the game ships
-# its pages.
-option(TN_WEBENGINE "Show the advert panels with Qt WebEngine" ON)
+# The advert panels: Qt's own rich-text view, or full web pages with Qt
+# WebEngine when asked for. The server's base address is a setting; empty
+# means the folder of the game's own pages.
+option(TN_WEBENGINE "Show the advert panels with Qt WebEngine (full web pages)" OFF)
 set(TN_PUB_BASE "" CACHE STRING "Base address of the advert pages (empty: the program's folder)")
 if(TN_WEBENGINE)
   find_package(Qt6 COMPONENTS WebEngineWidgets)
@@ -29,7 +29,7 @@ if(TN_WEBENGINE)
     target_link_libraries(troisniveaux-fenetre PUBLIC Qt6::WebEngineWidgets)
     target_compile_definitions(troisniveaux-fenetre PUBLIC TN_WEBENGINE)
   else()
-    message(STATUS "Qt WebEngine not found: the advert panels stay black")
+    message(STATUS "Qt WebEngine not found: the advert panels use Qt's rich-text view")
   endif()
 endif()
 if(TN_PUB_BASE)

@@ -5,6 +5,8 @@ if(TESTS_FENETRE)
   add_executable(troisniveaux-tests-fenetre ${TESTS_FENETRE})
   target_link_libraries(troisniveaux-tests-fenetre PRIVATE troisniveaux-fenetre Qt6::Test GTest::gtest)
   target_include_directories(troisniveaux-tests-fenetre PRIVATE tests/engine)
+  # The game's own pages are checked as shipped.
+  target_compile_definitions(troisniveaux-tests-fenetre PRIVATE TN_DOSSIER_DONNEES="${CMAKE_SOURCE_DIR}/data")
   gtest_discover_tests(troisniveaux-tests-fenetre DISCOVERY_TIMEOUT 60)
 endif()
 if(TESTS_FENETRE AND TN_SANITIZE)

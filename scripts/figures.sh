@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
 # Prints the game's figures on a virtual X screen: time to the first painted
 # frame, CPU use of an idle table with the stars running, the longest stretch
-# without handling events during a paced sweep, and resident memory, with and
-# without the web panels. Takes the build folders to measure (default: build/,
-# and build-sans-web/ when it exists); uses its own copy of the data files.
+# without handling events during a paced sweep, and resident memory of the
+# game and of all its processes. Takes the build folders to measure (default:
+# build/, and build-web/, the Qt WebEngine variant, when it exists); uses its
+# own copy of the data files.
 set -euo pipefail
 racine=$(cd "$(dirname "$0")/.." && pwd)
 
@@ -51,7 +52,7 @@ mesure() { # $1: the build folder
 dossiers=("$@")
 if [[ ${#dossiers[@]} -eq 0 ]]; then
   dossiers=("$racine/build")
-  [[ -x "$racine/build-sans-web/troisniveaux" ]] && dossiers+=("$racine/build-sans-web")
+  [[ -x "$racine/build-web/troisniveaux" ]] && dossiers+=("$racine/build-web")
 fi
 for dossier in "${dossiers[@]}"; do
   dossier=$(cd "$dossier" && pwd)

@@ -1,18 +1,22 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing, then configures and builds
-# in build/ (or $1). Safe to run again: nothing up to date is redone.
+# in build/ (or $1). Safe to run again: nothing up to date is redone. The
+# package lists are scripts/paquets.txt, and the files named in
+# $TN_PAQUETS_EN_PLUS (paths relative to scripts/) when set.
 set -euo pipefail
 racine=$(cd "$(dirname "$0")/.." && pwd)
 construction=${1:-$racine/build}
 shift || true
 
 manquants=()
-while read -r paquet; do
-  [[ -z "$paquet" || "$paquet" == \#* ]] && continue
-  if ! dpkg-query -W -f='${Status}' "$paquet" 2>/dev/null | grep -q "install ok installed"; then
-    manquants+=("$paquet")
-  fi
-done < "$racine/scripts/paquets.txt"
+for liste in paquets.txt ${TN_PAQUETS_EN_PLUS:-}; do
+  while read -r paquet; do
+    [[ -z "$paquet" || "$paquet" == \#* ]] && continue
+    if ! dpkg-query -W -f='${Status}' "$paquet" 2>/dev/null | grep -q "install ok installed"; then
+      manquants+=("$paquet")
+    fi
+  done <"$racine/scripts/$liste"
+done
 if ((${#manquants[@]})); then
   sudo=""
   if [[ $(id -u) -ne 0 ]]; then

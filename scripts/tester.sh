@@ -1,17 +1,19 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds with warnings as errors and runs every
-# test; then runs them again in a build with AddressSanitizer and
-# UndefinedBehaviorSanitizer. A build without the web engine runs the
-# window tests too.
+# test; checks the game as installed for every user and as a Debian package;
+# then runs the tests again in a build with AddressSanitizer and
+# UndefinedBehaviorSanitizer.
 set -euo pipefail
 racine=$(cd "$(dirname "$0")/.." && pwd)
+export TN_PAQUETS_EN_PLUS=paquets-verification.txt
 
-"$racine/scripts/preparer.sh" "$racine/build" -DTN_WERROR=ON
+# Configured for /usr, as a distribution builds it, so that the same build
+# is installed and packaged below.
+"$racine/scripts/preparer.sh" "$racine/build" -DTN_WERROR=ON -DCMAKE_INSTALL_PREFIX=/usr \
+  -DCMAKE_INSTALL_BINDIR=games
 (cd "$racine/build" && ctest --output-on-failure --timeout 600)
 
-# The game without the web engine builds and plays the same.
-"$racine/scripts/preparer.sh" "$racine/build-sans-web" -DTN_WERROR=ON -DTN_WEBENGINE=OFF -DTN_BENCH=OFF
-(cd "$racine/build-sans-web" && ctest --output-on-failure --timeout 600 -R '^(Fenêtre|PagesWeb|Partie)')
+"$racine/scripts/installation.sh" "$racine/build"
 
 "$racine/scripts/preparer.sh" "$racine/build-asan" -DTN_WERROR=ON -DTN_SANITIZE=ON -DTN_BENCH=OFF
 (cd "$racine/build-asan" && ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 \

@@ -10,6 +10,8 @@
 
 #include "core/table_state.h"
 #include "platform/qt/fenetre_table.h"
+#include "platform/qt/identite.h"
+#include "platform/qt/ligne_de_commande.h"
 #include "platform/qt/pages_web.h"
 #include "platform/qt/plateforme_qt.h"
 #include "platform/qt/sortie.h"
@@ -59,9 +61,12 @@ void Capture(FenêtreTable &fenêtre, TroisNiveaux &t, PlateformeQt &p, const QS
 int main(int argc, char *argv[]) {
   QElapsedTimer depuisLeDébut;
   depuisLeDébut.start();
+  if (const auto fin = TraiteLigneDeCommande(argc, argv))
+    return *fin;
   PrépareWebEngine();
   QApplication application(argc, argv);
-  QApplication::setApplicationName("TroisNiveaux");
+  if (!PrépareDémarrage())
+    return 1;
 
   PlateformeQt plateforme;
   TroisNiveaux table(plateforme);

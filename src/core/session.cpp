@@ -9,8 +9,8 @@ const char *const NomsParDéfaut[4] = {"MicroProc", "GigaOctets", "MégaBytes", 
 TroisNiveaux::TroisNiveaux(Plateforme &plateforme) : plateforme(plateforme) {}
 
 // The session's start, before the window is first painted. The steps keep
-// their order: the data files are opened by bare name once the program's
-// folder is the current one.
+// their order: the data files are opened by bare name once their folder is
+// the current one.
 void TroisNiveaux::Form_Load() {
   VérifieRésolution();
   if (DémarrageRefusé)
@@ -28,7 +28,7 @@ void TroisNiveaux::Form_Load() {
   Fenêtre.NonConnectéPic.Top = (Fenêtre.Form.Height - Fenêtre.NonConnectéPic.Height) / 2;
 
   std::error_code erreur;
-  std::filesystem::current_path(plateforme.DossierDuProgramme(), erreur);
+  std::filesystem::current_path(plateforme.DossierDesDonnées(), erreur);
 
   const int16_t bases[8] = {100, 200, 350, 380, 500, 600, 1000, 1500};
   for (int i = 0; i < 8; ++i)

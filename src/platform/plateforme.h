@@ -38,8 +38,9 @@ public:
   // Seconds since midnight, as the game's clock reads them.
   virtual float SecondesDepuisMinuit() = 0;
 
-  // Folder of the program: the data files lie there.
-  virtual std::string DossierDuProgramme() = 0;
+  // Folder of the data files, chosen once before the session starts: the
+  // program's own folder or the player's data folder.
+  virtual std::string DossierDesDonnées() = 0;
 
   // Display mode: read the current one, make the record's mode current.
   virtual void EnumDisplaySettings(EnregistrementAffichage &enregistrement) = 0;

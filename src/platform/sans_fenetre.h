@@ -36,7 +36,7 @@ public:
   }
   void Quitte() override { quitté = true; }
   float SecondesDepuisMinuit() override { return horloge; }
-  std::string DossierDuProgramme() override { return dossier; }
+  std::string DossierDesDonnées() override { return dossier; }
   void EnumDisplaySettings(EnregistrementAffichage &e) override { e = écran; }
   void ChangeDisplaySettings(const EnregistrementAffichage &e) override {
     changements.push_back(e);

@@ -4,7 +4,9 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTest>
+#include <QTextBrowser>
 #include <QWidget>
+#include <functional>
 
 #include "platform/qt/pages_web.h"
 
@@ -14,22 +16,27 @@
 
 namespace {
 
-// A tiny web server on the loopback address: every page it serves asks for
-// a picture from another host, which the views must refuse.
+// A tiny web server on the loopback address. By default every page it
+// serves asks for a picture of its own and one from another host, which the
+// views must refuse.
 class Serveur : public QTcpServer {
 public:
   QStringList demandes;
+  // The whole answer for a path; empty: the default page.
+  std::function<QByteArray(const QString &chemin)> réponse;
+
   Serveur() {
     connect(this, &QTcpServer::newConnection, this, [this] {
       while (QTcpSocket *client = nextPendingConnection()) {
         connect(client, &QTcpSocket::readyRead, client, [this, client] {
-          const QByteArray requête = client->readAll();
-          demandes << QString::fromLatin1(requête.split(' ').value(1));
-          const QByteArray page = "<html><body style='background:#000'>Publicité"
-                                  "<img src='http://exemple.invalid/pixel.png'></body></html>";
-          client->write(
-              "HTTP/1.1 200 OK\r\nContent-Type: text/html; charset=utf-8\r\nContent-Length: " +
-              QByteArray::number(page.size()) + "\r\nConnection: close\r\n\r\n" + page);
+          const QString chemin = QString::fromLatin1(client->readAll().split(' ').value(1));
+          demandes << chemin;
+          QByteArray envoi = réponse ? réponse(chemin) : QByteArray();
+          if (envoi.isEmpty())
+            envoi = Page("<html><body style='background:#000'>Publicité"
+                         "<img src='image.png'><img src='http://exemple.invalid/pixel.png'>"
+                         "</body></html>");
+          client->write(envoi);
           client->disconnectFromHost();
         });
       }
@@ -37,13 +44,31 @@ public:
     listen(QHostAddress::LocalHost);
   }
   QString Base() const { return QString("http://127.0.0.1:%1/").arg(serverPort()); }
+  static QByteArray Page(const QByteArray &page) {
+    return "HTTP/1.1 200 OK\r\nContent-Type: text/html; charset=utf-8\r\nContent-Length: " +
+           QByteArray::number(page.size()) + "\r\nConnection: close\r\n\r\n" + page;
+  }
 };
+
+// Puts the base back whatever the test's outcome.
+struct BaseEssai {
+  QString avant = PagesWeb::Base();
+  explicit BaseEssai(const QString &base) { PagesWeb::DéfinitBase(base); }
+  ~BaseEssai() {
+    PagesWeb::DéfinitBase("");
+    PagesWeb::DéfinitDossierLocal("");
+  }
+};
+
+[[maybe_unused]] QString TexteDe(QWidget *vue) {
+  auto *texte = qobject_cast<QTextBrowser *>(vue);
+  return texte ? texte->toPlainText() : QString();
+}
 
 } // namespace
 
 TEST(PagesWeb, SeulsLeServeurConfiguréEtLeLogoLocalSontPermis) {
-  const QString avant = PagesWeb::Base();
-  PagesWeb::DéfinitBase("http://127.0.0.1:8765/");
+  BaseEssai base("http://127.0.0.1:8765/");
   EXPECT_TRUE(PagesWeb::Permis("http://127.0.0.1:8765/pub0.htm"));
   EXPECT_FALSE(PagesWeb::Permis("http://127.0.0.1:9999/pub0.htm"));
   EXPECT_FALSE(PagesWeb::Permis("https://exemple.com/pub0.htm"));
@@ -51,9 +76,81 @@ TEST(PagesWeb, SeulsLeServeurConfiguréEtLeLogoLocalSontPermis) {
       QUrl::fromLocalFile(QCoreApplication::applicationDirPath() + "/logomdc200.htm").toString()));
   EXPECT_FALSE(PagesWeb::Permis(QUrl::fromLocalFile("/etc/passwd").toString()));
   PagesWeb::DéfinitBase("");
-  EXPECT_TRUE(PagesWeb::Base().startsWith("file://")) << "by default the program's own folder";
-  PagesWeb::DéfinitBase(avant);
+  EXPECT_TRUE(PagesWeb::Base().startsWith("file://")) << "by default the game's own pages";
+  PagesWeb::DéfinitDossierLocal("/usr/share/troisniveaux");
+  EXPECT_EQ(PagesWeb::Base(), "file:///usr/share/troisniveaux/");
+  EXPECT_TRUE(PagesWeb::Permis("file:///usr/share/troisniveaux/logomdc200.htm"));
+  EXPECT_FALSE(PagesWeb::Permis(
+      QUrl::fromLocalFile(QCoreApplication::applicationDirPath() + "/logomdc200.htm").toString()));
 }
+
+#ifndef TN_WEBENGINE
+
+// The shipped pages, drawn by Qt's rich text: each is in its view at once and
+// fits its panel without scrolling, and nothing of theirs is refused.
+TEST(PagesWeb, LesPagesDuJeuTiennentDansLeursPanneaux) {
+  BaseEssai base("");
+  PagesWeb::DéfinitDossierLocal(TN_DOSSIER_DONNEES);
+  QWidget pub0, pub1, logo;
+  PagesWeb pages(&pub0, &pub1, &logo);
+  const int refuséesAvant = PagesWeb::Refusées();
+  pages.Navigue(VueWeb::Pub0Web, "pub0.htm");
+  pages.Navigue(VueWeb::Pub1Web, "pub1.htm");
+  pages.Navigue(VueWeb::LogoWeb, "logomdc200.htm");
+  const struct {
+    VueWeb vue;
+    QWidget *panneau;
+    QRect géométrie;
+    const char *texte;
+  } attendus[] = {{VueWeb::Pub0Web, &pub0, QRect(0, 14, 816, 157), "Bonne partie !"},
+                  {VueWeb::Pub1Web, &pub1, QRect(19, 0, 224, 787), "MAINS SPÉCIALES"},
+                  {VueWeb::LogoWeb, &logo, QRect(0, 0, 226, 60), "Trois Niveaux"}};
+  for (const auto &a : attendus) {
+    auto *vue = qobject_cast<QTextBrowser *>(pages.Vue(a.vue));
+    ASSERT_NE(vue, nullptr) << a.texte;
+    EXPECT_EQ(vue->parentWidget(), a.panneau);
+    EXPECT_EQ(vue->geometry(), a.géométrie);
+    EXPECT_TRUE(vue->testAttribute(Qt::WA_TransparentForMouseEvents));
+    EXPECT_EQ(vue->focusPolicy(), Qt::NoFocus);
+    EXPECT_TRUE(vue->toPlainText().contains(a.texte)) << a.texte;
+    vue->document()->setTextWidth(vue->viewport()->width());
+    EXPECT_LE(vue->document()->size().height(), a.géométrie.height() + 0.5) << a.texte;
+  }
+  pub0.show();
+  QTest::qWait(50); // laid out and painted: the band's picture is read then
+  EXPECT_EQ(PagesWeb::Refusées(), refuséesAvant);
+}
+
+TEST(PagesWeb, LaPageVientDuServeurSansAutreHôteNiRedirection) {
+  Serveur serveur, ailleurs;
+  ASSERT_TRUE(serveur.isListening());
+  ASSERT_TRUE(ailleurs.isListening());
+  serveur.réponse = [&ailleurs](const QString &chemin) -> QByteArray {
+    if (chemin == "/pub1.htm")
+      return "HTTP/1.1 302 Found\r\nLocation: " + ailleurs.Base().toLatin1() +
+             "pub1.htm\r\nContent-Length: 0\r\nConnection: close\r\n\r\n";
+    if (chemin == "/image.png")
+      return "HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\nConnection: close\r\n\r\n";
+    return {};
+  };
+  BaseEssai base(serveur.Base());
+  QWidget pub0, pub1;
+  PagesWeb pages(&pub0, &pub1, nullptr);
+  const int refuséesAvant = PagesWeb::Refusées();
+  pages.Navigue(VueWeb::Pub0Web, "pub0.htm");
+  pages.Navigue(VueWeb::Pub1Web, "pub1.htm");
+  pub0.show();
+  QTRY_VERIFY_WITH_TIMEOUT(TexteDe(pages.Vue(VueWeb::Pub0Web)).contains("Publicité"), 10000);
+  QTRY_VERIFY_WITH_TIMEOUT(serveur.demandes.contains("/image.png"), 10000);
+  QTRY_VERIFY_WITH_TIMEOUT(serveur.demandes.contains("/pub1.htm"), 10000);
+  QTest::qWait(300);
+  EXPECT_GT(PagesWeb::Refusées(), refuséesAvant) << "the other host's picture";
+  EXPECT_TRUE(ailleurs.demandes.isEmpty()) << "a redirect is not followed";
+  EXPECT_TRUE(TexteDe(pages.Vue(VueWeb::Pub1Web)).isEmpty());
+  EXPECT_EQ(serveur.demandes.count("/pub0.htm"), 1);
+}
+
+#endif
 
 TEST(PagesWeb, LaPageVientDuServeurEtLesAutresHôtesSontRefusés) {
 #if !defined(TN_WEBENGINE) || defined(TN_SANS_CHROMIUM)
@@ -61,7 +158,7 @@ TEST(PagesWeb, LaPageVientDuServeurEtLesAutresHôtesSontRefusés) {
 #else
   Serveur serveur;
   ASSERT_TRUE(serveur.isListening());
-  PagesWeb::DéfinitBase(serveur.Base());
+  BaseEssai base(serveur.Base());
   QWidget panneau;
   panneau.resize(800, 155);
   PagesWeb pages(&panneau, nullptr, nullptr);
@@ -77,6 +174,5 @@ TEST(PagesWeb, LaPageVientDuServeurEtLesAutresHôtesSontRefusés) {
   EXPECT_TRUE(vue->testAttribute(Qt::WA_TransparentForMouseEvents));
   QTRY_VERIFY_WITH_TIMEOUT(serveur.demandes.contains("/pub0.htm"), 60000);
   QTRY_VERIFY_WITH_TIMEOUT(PagesWeb::Refusées() > refuséesAvant, 30000);
-  PagesWeb::DéfinitBase("");
 #endif
 }

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QLoggingCategory>
+#include <QNetworkAccessManager>
 #include <QPointer>
 #include <QTimer>
 #include <QUrl>
@@ -11,6 +12,8 @@
 #include <cstdlib>
 #include <functional>
 #include <unistd.h>
+
+#include "platform/qt/vue_texte.h"
 
 #ifdef TN_WEBENGINE
 #include <QWebEngineProfile>
@@ -32,11 +35,19 @@ QString &BaseConfigurée() {
 
 int refusées = 0;
 
-QString DossierDuProgramme() {
-  return QUrl::fromLocalFile(QCoreApplication::applicationDirPath() + "/").toString();
+QString &DossierLocalDéfini() {
+  static QString dossier;
+  return dossier;
 }
 
-#ifdef TN_WEBENGINE
+// The folder of the game's own pages, as an address ending in a slash.
+QString DossierLocal() {
+  const QString &défini = DossierLocalDéfini();
+  return QUrl::fromLocalFile((défini.isEmpty() ? QCoreApplication::applicationDirPath() : défini) +
+                             "/")
+      .toString();
+}
+
 // View geometry in pixels, relative to its panel (twips / 15).
 QRect Géométrie(VueWeb vue) {
   switch (vue) {
@@ -48,6 +59,8 @@ QRect Géométrie(VueWeb vue) {
     return QRect(0, 0, 226, 60);
   }
 }
+
+#ifdef TN_WEBENGINE
 
 // Calls `suite` once, just after the window has shown its first image: the
 // web engine's start (a good tenth of a second) then never delays it.
@@ -128,13 +141,15 @@ void PrépareWebEngine() {
 
 QString PagesWeb::Base() {
   const QString &base = BaseConfigurée();
-  return base.isEmpty() ? DossierDuProgramme() : base;
+  return base.isEmpty() ? DossierLocal() : base;
 }
 
 void PagesWeb::DéfinitBase(const QString &base) { BaseConfigurée() = base; }
 
+void PagesWeb::DéfinitDossierLocal(const QString &dossier) { DossierLocalDéfini() = dossier; }
+
 bool PagesWeb::Permis(const QString &adresse) {
-  const QString logo = DossierDuProgramme() + "logomdc200.htm";
+  const QString logo = DossierLocal() + "logomdc200.htm";
   return adresse.startsWith(Base()) || adresse == logo || adresse.startsWith("data:");
 }
 
@@ -142,7 +157,10 @@ int PagesWeb::Refusées() { return refusées; }
 
 struct PagesWeb::Détail {
   QPointer<QWidget> panneaux[3];
-#ifdef TN_WEBENGINE
+#ifndef TN_WEBENGINE
+  QNetworkAccessManager réseau;
+  QPointer<VueTexte> vues[3];
+#else
   QWebEngineProfile *profil = nullptr;
   QPointer<QWebEngineView> vues[3];
   // Pages asked for before the window's first image; the last one of a
@@ -166,33 +184,41 @@ PagesWeb::~PagesWeb() {
   for (auto &vue : détail->vues)
     delete vue.data();
   delete détail->profil;
+#else
+  for (auto &vue : détail->vues)
+    delete vue.data();
 #endif
   delete détail;
 }
 
-QWidget *PagesWeb::Vue(VueWeb vue) const {
-#ifdef TN_WEBENGINE
-  return détail->vues[static_cast<int>(vue)].data();
-#else
-  (void)vue;
-  return nullptr;
-#endif
-}
+QWidget *PagesWeb::Vue(VueWeb vue) const { return détail->vues[static_cast<int>(vue)].data(); }
 
 void PagesWeb::Navigue(VueWeb vue, const std::string &page) {
-#ifdef TN_WEBENGINE
   const int n = static_cast<int>(vue);
   QWidget *panneau = détail->panneaux[n];
   if (!panneau)
     return;
-  détail->enAttente[n] =
-      QUrl(vue == VueWeb::LogoWeb ? DossierDuProgramme() + QString::fromStdString(page)
-                                  : Base() + QString::fromStdString(page));
+  const QUrl adresse(vue == VueWeb::LogoWeb ? DossierLocal() + QString::fromStdString(page)
+                                            : Base() + QString::fromStdString(page));
+#ifdef TN_WEBENGINE
+  détail->enAttente[n] = adresse;
   if (!détail->guetteur)
     détail->guetteur = new Guetteur(panneau->window(), [d = détail] { d->OuvreEnAttente(); });
 #else
-  (void)vue;
-  (void)page;
+  // Qt's own text view costs next to nothing: it is made at once, and the
+  // game's pages are in the window's very first image.
+  if (!détail->vues[n]) {
+    auto *nouvelle = new VueTexte(panneau, détail->réseau, [](const QUrl &url) {
+      if (Permis(url.toString()))
+        return true;
+      ++refusées;
+      return false;
+    });
+    nouvelle->setGeometry(Géométrie(vue));
+    détail->vues[n] = nouvelle;
+    nouvelle->show();
+  }
+  détail->vues[n]->Ouvre(adresse);
 #endif
 }
 

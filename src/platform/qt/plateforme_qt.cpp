@@ -11,6 +11,7 @@
 #include "core/table_state.h"
 #include "platform/qt/affichage.h"
 #include "platform/qt/dialogue_resolution.h"
+#include "platform/qt/dossier_donnees.h"
 #include "platform/qt/pages_web.h"
 #include "platform/qt/reseau.h"
 
@@ -65,8 +66,8 @@ float PlateformeQt::SecondesDepuisMinuit() {
   return static_cast<float>(QTime::currentTime().msecsSinceStartOfDay()) / 1000.0f;
 }
 
-std::string PlateformeQt::DossierDuProgramme() {
-  return QCoreApplication::applicationDirPath().toStdString();
+std::string PlateformeQt::DossierDesDonnées() {
+  return DossierDeCetteSession().dossier.toStdString();
 }
 
 void PlateformeQt::EnumDisplaySettings(EnregistrementAffichage &enregistrement) {

@@ -20,7 +20,7 @@ public:
   void TourDeBalayage(int siège, int groupe) override;
   void Quitte() override;
   float SecondesDepuisMinuit() override;
-  std::string DossierDuProgramme() override;
+  std::string DossierDesDonnées() override;
   void EnumDisplaySettings(EnregistrementAffichage &enregistrement) override;
   void ChangeDisplaySettings(const EnregistrementAffichage &enregistrement) override;
   bool DemandeChangementRésolution() override;

@@ -1,0 +1,82 @@
+#!/usr/bin/env bash
+# Checks the game as a distribution would ship it, from a build configured
+# for /usr (default: build/): installs it under a temporary DESTDIR, checks
+# the desktop entry and AppStream data, starts the installed game with an
+# empty home (its data folder is made, a deal is played, Scores is written
+# there, and a second start reads it back), then makes the .deb and runs
+# lintian on it.
+set -euo pipefail
+racine=$(cd "$(dirname "$0")/.." && pwd)
+construction=$(cd "${1:-$racine/build}" && pwd)
+id=$(sed -n 's/^TN_ID_APPLICATION:STRING=//p' "$construction/CMakeCache.txt")
+prefixe=$(sed -n 's/^CMAKE_INSTALL_PREFIX:PATH=//p' "$construction/CMakeCache.txt")
+binaires=$(sed -n 's/^CMAKE_INSTALL_BINDIR:PATH=//p' "$construction/CMakeCache.txt")
+if [[ "$prefixe" != /usr ]]; then
+  echo "$construction n'est pas configuré pour /usr (CMAKE_INSTALL_PREFIX=$prefixe)" >&2
+  exit 1
+fi
+
+travail=$(mktemp -d)
+trap 'rm -rf "$travail"' EXIT
+dest=$travail/racine
+DESTDIR=$dest cmake --install "$construction" >/dev/null
+
+echo "== fichiers installés"
+for f in "usr/$binaires/troisniveaux" "usr/$binaires/troisniveaux-analyse" \
+  usr/share/troisniveaux/Noms usr/share/troisniveaux/Scores usr/share/troisniveaux/pub0.htm \
+  usr/share/troisniveaux/pub1.htm usr/share/troisniveaux/logomdc200.htm \
+  "usr/share/applications/$id.desktop" "usr/share/metainfo/$id.metainfo.xml" \
+  "usr/share/icons/hicolor/scalable/apps/$id.svg" "usr/share/icons/hicolor/48x48/apps/$id.png" \
+  usr/share/man/man6/troisniveaux.6.gz usr/share/man/man6/troisniveaux-analyse.6.gz \
+  usr/share/doc/troisniveaux/copyright; do
+  [[ -f "$dest/$f" ]] || { echo "manquant : /$f" >&2; exit 1; }
+done
+desktop-file-validate "$dest/usr/share/applications/$id.desktop"
+appstreamcli validate --no-net "$dest/usr/share/metainfo/$id.metainfo.xml"
+jeu=$dest/usr/$binaires/troisniveaux
+"$jeu" --version
+if "$jeu" --inconnue 2>/dev/null; then
+  echo "une option inconnue est acceptée" >&2
+  exit 1
+else
+  [[ $? -eq 2 ]] || { echo "une option inconnue ne sort pas avec le code 2" >&2; exit 1; }
+fi
+
+echo "== premier lancement, maison vide"
+maison=$travail/maison
+mkdir -p "$maison"
+lance() {
+  env -u XDG_DATA_HOME -u XDG_CONFIG_HOME -u XDG_DATA_DIRS HOME="$maison" QT_QPA_PLATFORM=offscreen \
+    TN_DUREE_BALAYAGE=0 timeout 300 "$jeu" "$@"
+}
+donnees=$maison/.local/share/troisniveaux
+lance_capture() { TN_CAPTURE="$travail/table.png" lance; }
+lance_capture
+for f in Noms Scores Tirage Temps2; do
+  [[ -s "$donnees/$f" ]] || { echo "$donnees/$f absent après une donne" >&2; exit 1; }
+done
+[[ -s "$travail/table.png" ]]
+[[ "$donnees/Scores" -nt "$donnees/Noms" ]] || { echo "Scores n'a pas été écrit" >&2; exit 1; }
+cmp -s "$donnees/Noms" "$dest/usr/share/troisniveaux/Noms"
+[[ ! -e "$dest/usr/share/troisniveaux/Tirage" ]] || { echo "écrit dans le dossier installé" >&2; exit 1; }
+
+echo "== deuxième lancement : les scores du joueur restent"
+cp "$donnees/Scores" "$travail/scores-avant"
+printf '"Ana"\r\n"Bo"\r\n"Cy"\r\n"Moi"\r\n' >"$donnees/Noms"
+TN_QUITTE_APRES=500 lance
+cmp "$donnees/Scores" "$travail/scores-avant"
+grep -q Moi "$donnees/Noms"
+rm "$donnees/Scores"
+if TN_QUITTE_APRES=500 lance 2>"$travail/erreur"; then
+  echo "le jeu démarre sans Scores" >&2
+  exit 1
+fi
+grep -q "Scores" "$travail/erreur"
+[[ ! -e "$donnees/Scores" ]] || { echo "Scores remplacé en silence" >&2; exit 1; }
+
+echo "== paquet Debian"
+(cd "$construction" && rm -f troisniveaux_*.deb && cpack -G DEB >/dev/null)
+paquet=$(ls "$construction"/troisniveaux_*.deb)
+dpkg-deb -f "$paquet" Depends
+lintian --fail-on error "$paquet"
+echo "installation vérifiée : $paquet"

@@ -1,0 +1,10 @@
+#!/usr/bin/env bash
+# The opt-in build with Qt WebEngine (full web pages in the two panels):
+# installs the engine's development package, builds, and runs the window
+# tests and a whole game in build-web/.
+set -euo pipefail
+racine=$(cd "$(dirname "$0")/.." && pwd)
+export TN_PAQUETS_EN_PLUS=paquets-webengine.txt
+"$racine/scripts/preparer.sh" "$racine/build-web" -DTN_WERROR=ON -DTN_WEBENGINE=ON -DTN_BENCH=OFF
+grep -q '^TN_WEBENGINE:BOOL=ON' "$racine/build-web/CMakeCache.txt"
+(cd "$racine/build-web" && ctest --output-on-failure --timeout 600 -R '^(Fenêtre|PagesWeb|Partie)')

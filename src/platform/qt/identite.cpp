@@ -1,0 +1,39 @@
+#include "platform/qt/identite.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QMessageBox>
+#include <cstdio>
+
+#include "platform/qt/dossier_donnees.h"
+#include "platform/qt/pages_web.h"
+
+#ifndef TN_ID_APPLICATION
+#define TN_ID_APPLICATION "io.github.troisniveaux.TroisNiveaux"
+#endif
+#ifndef TN_VERSION
+#define TN_VERSION "0"
+#endif
+
+bool PrépareDémarrage() {
+  // No organisation: the data folder is then ~/.local/share/troisniveaux.
+  QCoreApplication::setApplicationName(NomDuProgramme);
+  QCoreApplication::setApplicationVersion(TN_VERSION);
+  QGuiApplication::setApplicationDisplayName("Trois Niveaux");
+  QGuiApplication::setDesktopFileName(TN_ID_APPLICATION);
+  QIcon icône = QIcon::fromTheme(TN_ID_APPLICATION);
+  if (icône.isNull())
+    for (int taille : {32, 64, 128, 256})
+      icône.addFile(QString(":/icones/troisniveaux-%1.png").arg(taille));
+  QApplication::setWindowIcon(icône);
+
+  const DossierDesDonnéesChoisi &choix = DossierDeCetteSession();
+  PagesWeb::DéfinitDossierLocal(choix.pages);
+  if (choix.erreur.isEmpty())
+    return true;
+  const QString message = choix.erreur + " La partie ne peut pas commencer.";
+  std::fprintf(stderr, "TroisNiveaux : %s\n", message.toLocal8Bit().constData());
+  if (QGuiApplication::platformName() != "offscreen")
+    QMessageBox::critical(nullptr, "TroisNiveaux", message);
+  return false;
+}
