@@ -33,7 +33,7 @@ TEST(Avis, LeMessageHorsLigneTientEntierDansSonÉtiquette) {
   DossierEssai dossier;
   struct Plateforme : PlateformeQt {
     std::string dossier;
-    std::string DossierDuProgramme() override { return dossier; }
+    std::string DossierDesDonnées() override { return dossier; }
   } plateforme;
   plateforme.dossier = dossier.Chemin();
   plateforme.dialogues = false;

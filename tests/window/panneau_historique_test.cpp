@@ -18,7 +18,7 @@ struct Table {
   DossierEssai dossier;
   struct Plateforme : PlateformeQt {
     std::string dossier;
-    std::string DossierDuProgramme() override { return dossier; }
+    std::string DossierDesDonnées() override { return dossier; }
   } plateforme;
   TroisNiveaux t{plateforme};
   FenêtreTable fenêtre{t, plateforme};

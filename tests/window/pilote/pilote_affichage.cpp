@@ -13,7 +13,7 @@
 namespace {
 struct PlateformePilote : PlateformeQt {
   std::string dossier;
-  std::string DossierDuProgramme() override { return dossier; }
+  std::string DossierDesDonnées() override { return dossier; }
   bool DemandeChangementRésolution() override { return true; }
 };
 } // namespace
