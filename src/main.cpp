@@ -83,6 +83,7 @@ int main(int argc, char *argv[]) {
     return 1;
   }
   fenêtre.Synchronise();
+  fenêtre.RetrouveTaille();
 
   // A probe that fires every 5 ms: how late it comes during a sweep is how
   // long a click can wait for its handler.
@@ -117,6 +118,21 @@ int main(int argc, char *argv[]) {
     QTimer::singleShot(3000, &fenêtre, [&fenêtre, &table] {
       fenêtre.Événement([&table] { table.NouveauJeu_MouseUp(); });
     });
+  // And a hurry so many milliseconds into that deal: how long until GO shows.
+  QTimer guetteGo;
+  if (const char *délai = std::getenv("TN_PRESSE_APRES")) {
+    QTimer::singleShot(3000 + std::atoi(délai), &fenêtre, [&] {
+      plateforme.Presse();
+      guetteGo.start(1);
+    });
+    QObject::connect(&guetteGo, &QTimer::timeout, [&] {
+      if (!table.Fenêtre.Joue.Visible)
+        return;
+      guetteGo.stop();
+      std::fprintf(stderr, "de la pression à GO : %lld ms\n",
+                   static_cast<long long>(plateforme.depuisPression.elapsed()));
+    });
+  }
   if (const char *délai = std::getenv("TN_QUITTE_APRES"))
     QTimer::singleShot(std::atoi(délai), &fenêtre, [&fenêtre, &table] {
       fenêtre.Événement([&table] { table.Fin_MouseUp(); });

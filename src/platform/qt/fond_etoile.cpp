@@ -1,0 +1,103 @@
+#include "platform/qt/fond_etoile.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <tuple>
+
+#include "core/table_state.h"
+
+namespace {
+
+// A star is a dot of a pixel or two at the designed size: drawn once per
+// radius, scale and ratio, then copied, which costs far less than a curve
+// at each of 64 ticks a second.
+const QImage &Étoile(int rayonTwips, double échelle, qreal ratio) {
+  static std::map<std::tuple<int, double, qreal>, QImage> cache;
+  const auto clé = std::make_tuple(rayonTwips, échelle, ratio);
+  auto it = cache.find(clé);
+  if (it == cache.end()) {
+    if (cache.size() > 400) // a window dragged through many sizes
+      cache.clear();
+    const qreal rayon = std::max(0.5, rayonTwips * échelle / 15.0);
+    const int côté = 2 * static_cast<int>(std::ceil(rayon)) + 2;
+    QImage image(QSize(côté, côté) * ratio, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::transparent);
+    QPainter p(&image);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(Qt::NoPen);
+    p.setBrush(Qt::white);
+    p.drawEllipse(QPointF(côté / 2.0, côté / 2.0), rayon, rayon);
+    p.end();
+    it = cache.emplace(clé, image).first;
+  }
+  return it->second;
+}
+
+} // namespace
+
+FondÉtoilé::FondÉtoilé(TroisNiveaux &t, const double &échelle, QWidget *parent)
+    : QWidget(parent), t(t), échelle(échelle) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+QPointF FondÉtoilé::Centre(float x, float y) const {
+  return QPointF(x * échelle / 15.0, y * échelle / 15.0);
+}
+
+void FondÉtoilé::paintEvent(QPaintEvent *e) {
+  QPainter p(this);
+  for (const QRect &r : e->region())
+    p.fillRect(r, Qt::black);
+  const qreal ratio = devicePixelRatioF();
+  for (int i = 1; i <= 50; ++i) {
+    const QImage &étoile = Étoile(t.EtoileRayon[i], échelle, ratio);
+    const QSizeF taille = étoile.deviceIndependentSize();
+    const QPointF coin = Centre(t.EtoileX[i], t.EtoileY[i]) -
+                         QPointF(taille.width() / 2, taille.height() / 2);
+    if (e->region().intersects(QRectF(coin, taille).toAlignedRect()))
+      p.drawImage(coin, étoile);
+  }
+  if (premierAffichage) {
+    auto rappel = std::move(premierAffichage);
+    premierAffichage = nullptr;
+    rappel();
+  }
+}
+
+void FondÉtoilé::AvantTick() {
+  std::copy(std::begin(t.EtoileX), std::end(t.EtoileX), anciensX);
+  std::copy(std::begin(t.EtoileY), std::end(t.EtoileY), anciensY);
+}
+
+void FondÉtoilé::AprèsTick() {
+  // Panels are opaque rectangles: a square wholly inside one is skipped, and
+  // one that overlaps an edge is cut to what shows.
+  QRegion couvert;
+  for (QWidget *enfant : findChildren<QWidget *>(Qt::FindDirectChildrenOnly))
+    if (enfant->isVisible())
+      couvert += enfant->geometry();
+  QRegion àRepeindre;
+  for (int i = 1; i <= 50; ++i) {
+    const int marge = 2 + static_cast<int>(std::ceil(t.EtoileRayon[i] * échelle / 15.0));
+    for (const QPointF centre : {Centre(anciensX[i], anciensY[i]), Centre(t.EtoileX[i], t.EtoileY[i])}) {
+      const QRect carré(centre.toPoint() - QPoint(marge, marge), QSize(2 * marge + 1, 2 * marge + 1));
+      if (!carré.intersects(rect()))
+        continue;
+      bool caché = false;
+      for (const QRect &r : couvert)
+        if (r.contains(carré)) {
+          caché = true;
+          break;
+        }
+      if (!caché)
+        àRepeindre += carré;
+    }
+  }
+  àRepeindre -= couvert;
+  if (!àRepeindre.isEmpty())
+    update(àRepeindre);
+}
