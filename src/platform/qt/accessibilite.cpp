@@ -5,9 +5,8 @@
 #include "platform/qt/vue_controle.h"
 
 QString NomDeCarte(int code) {
-  static const char *const rangs[13] = {"deux", "trois", "quatre", "cinq", "six",
-                                        "sept", "huit",  "neuf",   "dix",  "valet",
-                                        "dame", "roi",   "as"};
+  static const char *const rangs[13] = {"deux", "trois", "quatre", "cinq", "six", "sept", "huit",
+                                        "neuf", "dix",   "valet",  "dame", "roi", "as"};
   static const char *const couleurs[4] = {"trèfle", "carreau", "cœur", "pique"};
   if (code < 0 || code > 51)
     return QString();

@@ -85,6 +85,7 @@ Clavier::Clavier(FenêtreTable &fenêtre, TroisNiveaux &t, PlateformeQt &platefo
   Ajoute(Qt::Key_Up, [this] { return DéplaceCadre(0, -1), true; });
   Ajoute(Qt::Key_Down, [this] { return DéplaceCadre(0, 1), true; });
 
+  fenêtre.Vue(f.Joue)->setToolTip("GO — touche " + NomDeTouche(Qt::Key_Return));
   fenêtre.Vue(f.VoirOrdi[0])->setToolTip("Solution de l'ordinateur — touche F7");
   fenêtre.Vue(f.VoirRègles[0])->setToolTip("Règles du jeu — touche F1");
   const QString presse = "L'ordinateur cherche : un clic ici ou la touche " +
@@ -100,7 +101,8 @@ void Clavier::Ajoute(QKeyCombination touche, std::function<bool()> action) {
 }
 
 void Clavier::AjoutePourContrôles(
-    QKeyCombination touche, std::vector<std::pair<const Contrôle *, std::function<void()>>> cibles) {
+    QKeyCombination touche,
+    std::vector<std::pair<const Contrôle *, std::function<void()>>> cibles) {
   Ajoute(touche, [this, cibles] {
     for (const auto &[contrôle, gestionnaire] : cibles)
       if (contrôle->Visible && contrôle->Enabled) {
@@ -266,13 +268,27 @@ bool Clavier::Espace() {
 
 void Clavier::OrdreDeTabulation() {
   auto &f = t.Fenêtre;
-  const Contrôle *ordre[] = {&f.NouveauJeu,         &f.Joue,           &f.Arrêt,
-                             &f.Rejoue,             &f.Mode,           &f.NomsJoueurs,
-                             &f.Scoresà0,           &f.VoirOrdi[0],    &f.VoirOrdi[1],
-                             &f.VoirRègles[0],      &f.VoirRègles[1],  &f.TextScroll[0],
-                             &f.TextScroll[1],      &f.NomsJoueursText[0], &f.NomsJoueursText[1],
-                             &f.NomsJoueursText[2], &f.NomsJoueursText[3], &f.EnregistreNoms,
-                             &f.AnnuleNoms,         &f.NonConnectéCmd, &f.Fin};
+  const Contrôle *ordre[] = {&f.NouveauJeu,
+                             &f.Joue,
+                             &f.Arrêt,
+                             &f.Rejoue,
+                             &f.Mode,
+                             &f.NomsJoueurs,
+                             &f.Scoresà0,
+                             &f.VoirOrdi[0],
+                             &f.VoirOrdi[1],
+                             &f.VoirRègles[0],
+                             &f.VoirRègles[1],
+                             &f.TextScroll[0],
+                             &f.TextScroll[1],
+                             &f.NomsJoueursText[0],
+                             &f.NomsJoueursText[1],
+                             &f.NomsJoueursText[2],
+                             &f.NomsJoueursText[3],
+                             &f.EnregistreNoms,
+                             &f.AnnuleNoms,
+                             &f.NonConnectéCmd,
+                             &f.Fin};
   QWidget *avant = nullptr;
   for (const Contrôle *c : ordre) {
     QWidget *vue = fenêtre.Vue(*c);
@@ -288,9 +304,9 @@ void Clavier::OrdreDeTabulation() {
 // mouse or the buttons have the hand again.
 bool Clavier::eventFilter(QObject *objet, QEvent *e) {
   const bool clic = e->type() == QEvent::MouseButtonPress;
-  const bool tab = e->type() == QEvent::KeyPress &&
-                   (static_cast<QKeyEvent *>(e)->key() == Qt::Key_Tab ||
-                    static_cast<QKeyEvent *>(e)->key() == Qt::Key_Backtab);
+  const bool tab =
+      e->type() == QEvent::KeyPress && (static_cast<QKeyEvent *>(e)->key() == Qt::Key_Tab ||
+                                        static_cast<QKeyEvent *>(e)->key() == Qt::Key_Backtab);
   if ((clic || tab) && objet->isWidgetType() &&
       static_cast<QWidget *>(objet)->window() == &fenêtre && CadreVisible())
     CacheCadre();

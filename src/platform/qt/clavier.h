@@ -4,8 +4,8 @@
 // to be made active); the keyboard frame over the human's cards; the order
 // of Tab over the buttons; the key names shown in the tooltips.
 
-#include <QObject>
 #include <QKeySequence>
+#include <QObject>
 #include <functional>
 #include <vector>
 

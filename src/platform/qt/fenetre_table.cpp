@@ -28,6 +28,9 @@ FenêtreTable::FenêtreTable(TroisNiveaux &table, PlateformeQt &plateforme)
   Construit();
   Relie();
   clavier = new Clavier(*this, t, plateforme);
+  // The window holds the keyboard at first, not JOUER: Espace and the arrows
+  // then go to the cards, and Tab reaches JOUER first.
+  setFocus(Qt::OtherFocusReason);
   plateforme.table = &t;
   plateforme.aprèsTour = [this] { Synchronise(); };
 
@@ -143,24 +146,39 @@ void FenêtreTable::Relie() {
     v->surClic = clic;
     v->relâché = [this, gestionnaire] { Événement(gestionnaire); };
   };
-  relie(f.NouveauJeu, [this] { t.NouveauJeu_MouseUp(); }, false);
-  relie(f.Joue, [this] { t.Joue_Click(); }, true);
-  relie(f.Arrêt, [this] { t.Arrêt_MouseUp(); }, false);
-  relie(f.Rejoue, [this] { t.Rejoue_MouseUp(); }, false);
-  relie(f.Mode, [this] { t.Mode_MouseUp(); }, false);
-  relie(f.Scoresà0, [this] { t.Scoresà0_MouseUp(); }, false);
-  relie(f.NomsJoueurs, [this] { t.NomsJoueurs_MouseUp(); }, false);
-  relie(f.Fin, [this] { t.Fin_MouseUp(); }, false);
-  relie(f.EnregistreNoms, [this] { t.EnregistreNoms_MouseUp(); }, false);
-  relie(f.AnnuleNoms, [this] { t.AnnuleNoms_MouseUp(); }, false);
-  relie(f.NonConnectéCmd, [this] { t.NonConnectéCmd_Click(); }, true);
+  relie(
+      f.NouveauJeu, [this] { t.NouveauJeu_MouseUp(); }, false);
+  relie(
+      f.Joue, [this] { t.Joue_Click(); }, true);
+  relie(
+      f.Arrêt, [this] { t.Arrêt_MouseUp(); }, false);
+  relie(
+      f.Rejoue, [this] { t.Rejoue_MouseUp(); }, false);
+  relie(
+      f.Mode, [this] { t.Mode_MouseUp(); }, false);
+  relie(
+      f.Scoresà0, [this] { t.Scoresà0_MouseUp(); }, false);
+  relie(
+      f.NomsJoueurs, [this] { t.NomsJoueurs_MouseUp(); }, false);
+  relie(
+      f.Fin, [this] { t.Fin_MouseUp(); }, false);
+  relie(
+      f.EnregistreNoms, [this] { t.EnregistreNoms_MouseUp(); }, false);
+  relie(
+      f.AnnuleNoms, [this] { t.AnnuleNoms_MouseUp(); }, false);
+  relie(
+      f.NonConnectéCmd, [this] { t.NonConnectéCmd_Click(); }, true);
   for (int i = 0; i <= 1; ++i) {
-    relie(f.VoirOrdi[i], [this, i] { t.VoirOrdi_Click(i); }, true);
-    relie(f.VoirRègles[i], [this, i] { t.VoirRègles_Click(i); }, true);
-    relie(f.TextScroll[i], [this, i] { t.TextScroll_Click(i); }, true);
+    relie(
+        f.VoirOrdi[i], [this, i] { t.VoirOrdi_Click(i); }, true);
+    relie(
+        f.VoirRègles[i], [this, i] { t.VoirRègles_Click(i); }, true);
+    relie(
+        f.TextScroll[i], [this, i] { t.TextScroll_Click(i); }, true);
   }
   for (int i = 0; i <= 52; ++i)
-    relie(f.CartesJeu[i], [this, i] { t.CartesJeu_MouseUp(i); }, false);
+    relie(
+        f.CartesJeu[i], [this, i] { t.CartesJeu_MouseUp(i); }, false);
   // A click on the clock and its bar hurries the computer: the pacing of
   // its search is the window's, so no handler of the game is involved.
   for (const Contrôle *c : {&f.TempsSS, &f.TempsFondSS, &f.TempsShape, &f.TempsLabel})
@@ -196,7 +214,8 @@ void FenêtreTable::SynchroniseMinuteries() {
 
 // The largest table that fits, in the middle; the rest of the window is black.
 void FenêtreTable::resizeEvent(QResizeEvent *) {
-  const double largeur = Pixels(t.Fenêtre.Form.Width, 1), hauteur = Pixels(t.Fenêtre.Form.Height, 1);
+  const double largeur = Pixels(t.Fenêtre.Form.Width, 1),
+               hauteur = Pixels(t.Fenêtre.Form.Height, 1);
   const double nouvelle = std::min(width() / largeur, height() / hauteur);
   const int l = static_cast<int>(std::lround(largeur * nouvelle));
   const int h = static_cast<int>(std::lround(hauteur * nouvelle));

@@ -56,8 +56,8 @@ void FondÉtoilé::paintEvent(QPaintEvent *e) {
   for (int i = 1; i <= 50; ++i) {
     const QImage &étoile = Étoile(t.EtoileRayon[i], échelle, ratio);
     const QSizeF taille = étoile.deviceIndependentSize();
-    const QPointF coin = Centre(t.EtoileX[i], t.EtoileY[i]) -
-                         QPointF(taille.width() / 2, taille.height() / 2);
+    const QPointF coin =
+        Centre(t.EtoileX[i], t.EtoileY[i]) - QPointF(taille.width() / 2, taille.height() / 2);
     if (e->region().intersects(QRectF(coin, taille).toAlignedRect()))
       p.drawImage(coin, étoile);
   }
@@ -83,8 +83,10 @@ void FondÉtoilé::AprèsTick() {
   QRegion àRepeindre;
   for (int i = 1; i <= 50; ++i) {
     const int marge = 2 + static_cast<int>(std::ceil(t.EtoileRayon[i] * échelle / 15.0));
-    for (const QPointF centre : {Centre(anciensX[i], anciensY[i]), Centre(t.EtoileX[i], t.EtoileY[i])}) {
-      const QRect carré(centre.toPoint() - QPoint(marge, marge), QSize(2 * marge + 1, 2 * marge + 1));
+    for (const QPointF centre :
+         {Centre(anciensX[i], anciensY[i]), Centre(t.EtoileX[i], t.EtoileY[i])}) {
+      const QRect carré(centre.toPoint() - QPoint(marge, marge),
+                        QSize(2 * marge + 1, 2 * marge + 1));
       if (!carré.intersects(rect()))
         continue;
       bool caché = false;

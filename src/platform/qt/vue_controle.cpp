@@ -164,7 +164,8 @@ bool VueContrôle::event(QEvent *e) {
   if (e->type() == QEvent::ChildPolished) {
     auto *enfant = qobject_cast<QWidget *>(static_cast<QChildEvent *>(e)->child());
     if (enfant && enfant != saisie && !dynamic_cast<VueContrôle *>(enfant) &&
-        !enfant->property(GéométrieDessinée).isValid() && !enfant->property("tnHorsEchelle").toBool()) {
+        !enfant->property(GéométrieDessinée).isValid() &&
+        !enfant->property("tnHorsEchelle").toBool()) {
       enfant->setProperty(GéométrieDessinée, enfant->geometry());
       PlaceÉtrangers();
     }
