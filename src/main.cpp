@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QMessageBox>
+#include <QScreen>
 #include <QTimer>
 #include <cstdio>
 #include <cstdlib>
@@ -109,6 +110,12 @@ int main(int argc, char *argv[]) {
       std::fprintf(stderr, "premier affichage : %lld ms\n",
                    static_cast<long long>(depuisLeDébut.elapsed()));
   });
+  // For the figures script and the README's screenshot: the table full
+  // screen, also on a virtual screen that has no window manager to size it.
+  if (std::getenv("TN_PLEIN_ECRAN")) {
+    fenêtre.setGeometry(fenêtre.screen()->geometry());
+    fenêtre.BasculePleinÉcran();
+  }
   fenêtre.show();
   if (const char *fichier = std::getenv("TN_CAPTURE"))
     Capture(fenêtre, table, plateforme, QString::fromLocal8Bit(fichier));

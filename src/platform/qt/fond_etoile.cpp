@@ -74,30 +74,28 @@ void FondÉtoilé::AvantTick() {
 }
 
 void FondÉtoilé::AprèsTick() {
-  // Panels are opaque rectangles: a square wholly inside one is skipped, and
-  // one that overlaps an edge is cut to what shows.
+  // Panels are opaque rectangles: what they cover is left out. A star that
+  // only fell is one strip from its old place to its new one, so the server
+  // gets some fifty small rectangles a tick.
   QRegion couvert;
   for (QWidget *enfant : findChildren<QWidget *>(Qt::FindDirectChildrenOnly))
     if (enfant->isVisible())
       couvert += enfant->geometry();
   QRegion àRepeindre;
+  const QRect tout = rect();
   for (int i = 1; i <= 50; ++i) {
     const int marge = 2 + static_cast<int>(std::ceil(t.EtoileRayon[i] * échelle / 15.0));
-    for (const QPointF centre :
-         {Centre(anciensX[i], anciensY[i]), Centre(t.EtoileX[i], t.EtoileY[i])}) {
-      const QRect carré(centre.toPoint() - QPoint(marge, marge),
-                        QSize(2 * marge + 1, 2 * marge + 1));
-      if (!carré.intersects(rect()))
-        continue;
-      bool caché = false;
-      for (const QRect &r : couvert)
-        if (r.contains(carré)) {
-          caché = true;
-          break;
-        }
-      if (!caché)
-        àRepeindre += carré;
-    }
+    const auto carré = [marge](QPointF centre) {
+      return QRect(centre.toPoint() - QPoint(marge, marge), QSize(2 * marge + 1, 2 * marge + 1));
+    };
+    const QRect avant = carré(Centre(anciensX[i], anciensY[i]));
+    const QRect après = carré(Centre(t.EtoileX[i], t.EtoileY[i]));
+    // A star back at the top is two squares, far apart.
+    const bool tombée = après.top() >= avant.top();
+    const QRect morceaux[2] = {tombée ? (avant | après) : avant, tombée ? QRect() : après};
+    for (const QRect &r : morceaux)
+      if (r.intersects(tout))
+        àRepeindre += r & tout;
   }
   àRepeindre -= couvert;
   if (!àRepeindre.isEmpty())
