@@ -254,7 +254,9 @@ void FenêtreTable::BasculePleinÉcran() {
 
 void FenêtreTable::RetrouveTaille() {
   mémoriseTaille = true;
-  const QByteArray géométrie = QSettings().value("fenetre/geometrie").toByteArray();
+  // The player's own settings, apart from the game's data files.
+  const QByteArray géométrie =
+      QSettings("TroisNiveaux", "TroisNiveaux").value("fenetre/geometrie").toByteArray();
   if (!géométrie.isEmpty())
     restoreGeometry(géométrie);
 }
@@ -263,7 +265,8 @@ void FenêtreTable::MémoriseTaille() {
   if (!mémoriseTaille)
     return;
   mémoriseTaille = false;
-  QSettings().setValue("fenetre/geometrie", saveGeometry());
+  QSettings réglages("TroisNiveaux", "TroisNiveaux");
+  réglages.setValue("fenetre/geometrie", saveGeometry());
 }
 
 void FenêtreTable::closeEvent(QCloseEvent *event) {
