@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QImage>
+#include <QLabel>
 #include <QTest>
 #include <cmath>
 
@@ -101,4 +102,22 @@ TEST(Échelle, LesCartesSontDessinéesÀLaTailleFinale) {
       ImageBrute(table.t.Mains[4][0], QSize(180, 270), ratio).convertToFormat(QImage::Format_RGB32);
   const QRect zone(dedans.topLeft() * ratio, dedans.size() * ratio);
   EXPECT_TRUE(montré.copy(zone) == attendu.copy(zone));
+}
+
+// A widget that another part of the game lays in a panel at the designed
+// size (the advert pages) follows the scale, its text too.
+TEST(Échelle, UnePageDansSonPanneauSuitLÉchelle) {
+  Table table;
+  auto *page = new QLabel("Trois Niveaux", table.Vue(table.t.Fenêtre.Pub0Pic));
+  QFont police = page->font();
+  police.setPixelSize(14);
+  page->setFont(police);
+  page->setGeometry(10, 20, 100, 30);
+  page->show();
+  Redimensionne(table, {2048, 1536});
+  EXPECT_EQ(page->geometry(), QRect(20, 40, 200, 60));
+  EXPECT_EQ(page->font().pixelSize(), 28);
+  Redimensionne(table, {1024, 768});
+  EXPECT_EQ(page->geometry(), QRect(10, 20, 100, 30));
+  EXPECT_EQ(page->font().pixelSize(), 14);
 }

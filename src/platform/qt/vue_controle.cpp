@@ -62,6 +62,7 @@ public:
 // A widget that some other part of the game put in a panel (a web view) keeps
 // the geometry it was given at the designed size here.
 const char *const GéométrieDessinée = "tnGeometrieDessinee";
+const char *const PoliceDessinée = "tnPoliceDessinee";
 
 } // namespace
 
@@ -153,8 +154,17 @@ void VueContrôle::PlaceÉtrangers() {
     const QRect r = dessinée.toRect();
     const auto px = [this](int v) { return static_cast<int>(std::lround(v * échelle)); };
     enfant->setGeometry(px(r.x()), px(r.y()), px(r.width()), px(r.height()));
-    if (enfant->metaObject()->indexOfProperty("zoomFactor") >= 0)
+    // A web view zooms its page; any other widget has its font grown.
+    if (enfant->metaObject()->indexOfProperty("zoomFactor") >= 0) {
       enfant->setProperty("zoomFactor", std::clamp(échelle, 0.25, 5.0));
+    } else {
+      QFont police = enfant->property(PoliceDessinée).value<QFont>();
+      if (police.pixelSize() > 0)
+        police.setPixelSize(std::max(1, px(police.pixelSize())));
+      else
+        police.setPointSizeF(police.pointSizeF() * échelle);
+      enfant->setFont(police);
+    }
   }
 }
 
@@ -167,6 +177,7 @@ bool VueContrôle::event(QEvent *e) {
         !enfant->property(GéométrieDessinée).isValid() &&
         !enfant->property("tnHorsEchelle").toBool()) {
       enfant->setProperty(GéométrieDessinée, enfant->geometry());
+      enfant->setProperty(PoliceDessinée, enfant->font());
       PlaceÉtrangers();
     }
   }
