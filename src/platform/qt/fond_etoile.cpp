@@ -74,13 +74,24 @@ void FondÉtoilé::AvantTick() {
 }
 
 void FondÉtoilé::AprèsTick() {
-  // Panels are opaque rectangles: what they cover is left out. A star that
-  // only fell is one strip from its old place to its new one, so the server
-  // gets some fifty small rectangles a tick.
-  QRegion couvert;
-  for (QWidget *enfant : findChildren<QWidget *>(Qt::FindDirectChildrenOnly))
-    if (enfant->isVisible())
-      couvert += enfant->geometry();
+  // A star that only fell is one strip from its old place to its new one,
+  // so the server gets some fifty small rectangles a tick. One that lies
+  // wholly under a panel is left out; the panels being opaque, Qt itself
+  // keeps the rest of the paint off them.
+  QRect couvert[16];
+  int nombre = 0;
+  for (const QObject *objet : children())
+    if (objet->isWidgetType() && nombre < 16) {
+      const auto *enfant = static_cast<const QWidget *>(objet);
+      if (enfant->isVisible())
+        couvert[nombre++] = enfant->geometry();
+    }
+  const auto caché = [&](const QRect &r) {
+    for (int n = 0; n < nombre; ++n)
+      if (couvert[n].contains(r))
+        return true;
+    return false;
+  };
   QRegion àRepeindre;
   const QRect tout = rect();
   for (int i = 1; i <= 50; ++i) {
@@ -94,10 +105,9 @@ void FondÉtoilé::AprèsTick() {
     const bool tombée = après.top() >= avant.top();
     const QRect morceaux[2] = {tombée ? (avant | après) : avant, tombée ? QRect() : après};
     for (const QRect &r : morceaux)
-      if (r.intersects(tout))
+      if (r.intersects(tout) && !caché(r))
         àRepeindre += r & tout;
   }
-  àRepeindre -= couvert;
   if (!àRepeindre.isEmpty())
     update(àRepeindre);
 }
