@@ -121,3 +121,22 @@ TEST(Échelle, UnePageDansSonPanneauSuitLÉchelle) {
   EXPECT_EQ(page->geometry(), QRect(10, 20, 100, 30));
   EXPECT_EQ(page->font().pixelSize(), 14);
 }
+
+// The stars fall on the grown table at grown places, and grown themselves.
+TEST(Échelle, LesÉtoilesSontÀLÉchelle) {
+  Table table;
+  Redimensionne(table, {2048, 1536});
+  QWidget *fond = table.fenêtre.Fond();
+  const QImage image = fond->grab().toImage();
+  const qreal ratio = image.devicePixelRatio();
+  int vues = 0;
+  for (int i = 1; i <= 50; ++i) {
+    const QPoint centre(static_cast<int>(table.t.EtoileX[i] * 2 / 15),
+                        static_cast<int>(table.t.EtoileY[i] * 2 / 15));
+    if (table.t.EtoileRayon[i] < 8 || fond->childAt(centre))
+      continue; // too small to hit one pixel for sure, or under a panel
+    ++vues;
+    EXPECT_GT(image.pixelColor(centre * ratio).lightness(), 128) << "star " << i;
+  }
+  EXPECT_GT(vues, 0);
+}
