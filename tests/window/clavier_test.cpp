@@ -131,6 +131,24 @@ TEST(Clavier, EntréeDansLePanneauDesNomsEnregistreSansJouer) {
   EXPECT_TRUE(f.VoirOrdi[0].Visible);
 }
 
+// A player without a mouse renames a seat: F5 opens the panel with the
+// keyboard in the first box, Entrée keeps the name and gives the keys back.
+TEST(Clavier, LePanneauDesNomsPrendLeClavierEnSOuvrant) {
+  Table table;
+  auto &f = table.t.Fenêtre;
+  table.Touche(Qt::Key_F5);
+  ASSERT_TRUE(f.NomsJoueursSS.Visible);
+  QWidget *saisie = table.fenêtre.focusWidget();
+  ASSERT_EQ(saisie, table.Vue(f.NomsJoueursText[0])->findChild<QLineEdit *>());
+  static_cast<QLineEdit *>(saisie)->selectAll();
+  QTest::keyClicks(saisie, "Ordi");
+  QTest::keyClick(saisie, Qt::Key_Return);
+  EXPECT_EQ(f.JoueursLabel[0].Caption, "Ordi");
+  EXPECT_EQ(table.fenêtre.focusWidget(), &table.fenêtre);
+  table.Touche(Qt::Key_F2);
+  EXPECT_TRUE(f.Joue.Visible);
+}
+
 // The keys are named as on a French keyboard and as the README names them.
 TEST(Clavier, LesBullesNommentLesTouchesEnFrançais) {
   Table table;

@@ -252,6 +252,19 @@ void Clavier::ChangeÉchelle() {
     cadre->setGeometry(fenêtre.Vue(t.Fenêtre.CartesJeu[39 + place])->geometry());
 }
 
+void Clavier::AprèsSynchronisation() {
+  const bool ouvert = t.Fenêtre.NomsJoueursSS.Visible;
+  if (ouvert == panneauOuvert)
+    return;
+  panneauOuvert = ouvert;
+  if (ouvert)
+    fenêtre.Vue(t.Fenêtre.NomsJoueursText[0])
+        ->findChild<QLineEdit *>()
+        ->setFocus(Qt::OtherFocusReason);
+  else
+    fenêtre.setFocus(Qt::OtherFocusReason);
+}
+
 // Espace is a mouse release on the place under the frame; the first press
 // only shows the frame.
 bool Clavier::Espace() {

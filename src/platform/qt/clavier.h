@@ -39,6 +39,9 @@ public:
   void CacheCadre();
   // The frame follows its card after a change of scale.
   void ChangeÉchelle();
+  // After the widgets follow the model: the names panel takes the keyboard
+  // as it opens and gives it back to the table as it closes.
+  void AprèsSynchronisation();
 
   // How a key is written in the table's tooltips: the names of a French
   // keyboard ("Échap", "Entrée").
@@ -58,6 +61,7 @@ private:
   std::vector<Raccourci> raccourcis;
   QWidget *cadre = nullptr;
   int place = 0;
+  bool panneauOuvert = false;
 
   bool Saisie() const;
   void DéplaceCadre(int dx, int dy);

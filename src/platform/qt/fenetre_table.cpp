@@ -198,6 +198,8 @@ void FenêtreTable::Synchronise() {
   for (VueContrôle *v : vues)
     v->Applique(premier);
   SynchroniseMinuteries();
+  if (clavier)
+    clavier->AprèsSynchronisation();
 }
 
 void FenêtreTable::SynchroniseMinuteries() {
