@@ -80,14 +80,21 @@ Clavier::Clavier(FenêtreTable &fenêtre, TroisNiveaux &t, PlateformeQt &platefo
     return true;
   });
   Ajoute(Qt::Key_Space, [this] { return Espace(); });
-  Ajoute(Qt::Key_Left, [this] { return DéplaceCadre(-1, 0), true; });
-  Ajoute(Qt::Key_Right, [this] { return DéplaceCadre(1, 0), true; });
-  Ajoute(Qt::Key_Up, [this] { return DéplaceCadre(0, -1), true; });
-  Ajoute(Qt::Key_Down, [this] { return DéplaceCadre(0, 1), true; });
+  const std::pair<Qt::Key, QPoint> flèches[] = {{Qt::Key_Left, {-1, 0}},
+                                                {Qt::Key_Right, {1, 0}},
+                                                {Qt::Key_Up, {0, -1}},
+                                                {Qt::Key_Down, {0, 1}}};
+  for (const auto &[touche, sens] : flèches)
+    Ajoute(touche, [this, sens] {
+      DéplaceCadre(sens.x(), sens.y());
+      return true;
+    });
 
   fenêtre.Vue(f.Joue)->setToolTip("GO — touche " + NomDeTouche(Qt::Key_Return));
   fenêtre.Vue(f.VoirOrdi[0])->setToolTip("Solution de l'ordinateur — touche F7");
   fenêtre.Vue(f.VoirRègles[0])->setToolTip("Règles du jeu — touche F1");
+  fenêtre.Vue(f.TextScroll[0])->setToolTip("Page précédente — touche Page préc.");
+  fenêtre.Vue(f.TextScroll[1])->setToolTip("Page suivante — touche Page suiv.");
   const QString presse = "L'ordinateur cherche : un clic ici ou la touche " +
                          NomDeTouche(Qt::Key_Return) + " lui fait finir sa recherche sans attendre";
   for (const Contrôle *c : {&f.TempsSS, &f.TempsFondSS, &f.TempsShape, &f.TempsLabel})
