@@ -130,7 +130,8 @@ int main(int argc, char *argv[]) {
   if (const char *délai = std::getenv("TN_PRESSE_APRES")) {
     QTimer::singleShot(3000 + std::atoi(délai), &fenêtre, [&] {
       plateforme.Presse();
-      guetteGo.start(1);
+      if (plateforme.pressé) // else the search was already over
+        guetteGo.start(1);
     });
     QObject::connect(&guetteGo, &QTimer::timeout, [&] {
       if (!table.Fenêtre.Joue.Visible)
