@@ -27,11 +27,11 @@ protected:
   void paintEvent(QPaintEvent *) override {
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
-    const qreal trait = std::max(2.0, 4.0 * échelle);
+    const qreal trait = std::max(2.0, 3.0 * échelle);
     p.setPen(QPen(QColor(255, 210, 0), trait));
     p.setBrush(Qt::NoBrush);
     const qreal d = trait / 2;
-    p.drawRoundedRect(QRectF(rect()).adjusted(d, d, -d, -d), 6 * échelle, 6 * échelle);
+    p.drawRoundedRect(QRectF(rect()).adjusted(d, d, -d, -d), 4 * échelle, 4 * échelle);
   }
 
 private:
@@ -239,9 +239,29 @@ void Clavier::DéplaceCadre(int dx, int dy) {
   MontreCadre();
 }
 
+// The part of the place's card that shows: the next place of its row lies
+// over its right side and the row in front over its lower side.
+QRect Clavier::PartieVisible() const {
+  const auto géométrie = [this](int k) {
+    return fenêtre.Vue(t.Fenêtre.CartesJeu[39 + k])->geometry();
+  };
+  const QRect carte = géométrie(place);
+  QRect visible = carte;
+  for (int k = 0; k <= 12; ++k) {
+    const QRect devant = géométrie(k);
+    if (k == place || !devant.intersects(visible))
+      continue;
+    if (devant.top() == carte.top() && devant.left() > carte.left())
+      visible.setRight(std::min(visible.right(), devant.left() - 1));
+    else if (devant.top() > carte.top())
+      visible.setBottom(std::min(visible.bottom(), devant.top() - 1));
+  }
+  return visible;
+}
+
 void Clavier::MontreCadre() {
   QWidget *carte = fenêtre.Vue(t.Fenêtre.CartesJeu[39 + place]);
-  cadre->setGeometry(carte->geometry());
+  cadre->setGeometry(PartieVisible());
   cadre->show();
   cadre->raise();
   if (QAccessible::isActive()) {
@@ -256,7 +276,7 @@ void Clavier::CacheCadre() { cadre->hide(); }
 
 void Clavier::ChangeÉchelle() {
   if (CadreVisible())
-    cadre->setGeometry(fenêtre.Vue(t.Fenêtre.CartesJeu[39 + place])->geometry());
+    cadre->setGeometry(PartieVisible());
 }
 
 void Clavier::AprèsSynchronisation() {

@@ -6,6 +6,7 @@
 
 #include <QKeySequence>
 #include <QObject>
+#include <QRect>
 #include <functional>
 #include <vector>
 
@@ -66,6 +67,7 @@ private:
   bool Saisie() const;
   void DéplaceCadre(int dx, int dy);
   void MontreCadre();
+  QRect PartieVisible() const;
   bool Espace();
   void OrdreDeTabulation();
 };
