@@ -12,6 +12,9 @@ export TN_PAQUETS_EN_PLUS=paquets-verification.txt
 "$racine/scripts/preparer.sh" "$racine/build" -DTN_WERROR=ON -DCMAKE_INSTALL_PREFIX=/usr \
   -DCMAKE_INSTALL_BINDIR=games
 (cd "$racine/build" && ctest --output-on-failure --timeout 600)
+# The window tests once more on a virtual X screen with no window manager,
+# where no window is made active by itself.
+(cd "$racine/build" && xvfb-run -a -s "-screen 0 1280x1024x24" ./troisniveaux-tests-fenetre --gtest_brief=1)
 
 "$racine/scripts/installation.sh" "$racine/build"
 

@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QMessageBox>
+#include <QScreen>
 #include <QTimer>
 #include <cstdio>
 #include <cstdlib>
@@ -90,6 +91,7 @@ int main(int argc, char *argv[]) {
     return 1;
   }
   fenêtre.Synchronise();
+  fenêtre.RetrouveTaille();
 
   // A probe that fires every 5 ms: how late it comes during a sweep is how
   // long a click can wait for its handler.
@@ -115,6 +117,12 @@ int main(int argc, char *argv[]) {
       std::fprintf(stderr, "premier affichage : %lld ms\n",
                    static_cast<long long>(depuisLeDébut.elapsed()));
   });
+  // For the figures script and the README's screenshot: the table full
+  // screen, also on a virtual screen that has no window manager to size it.
+  if (std::getenv("TN_PLEIN_ECRAN")) {
+    fenêtre.setGeometry(fenêtre.screen()->geometry());
+    fenêtre.BasculePleinÉcran();
+  }
   fenêtre.show();
   if (const char *fichier = std::getenv("TN_CAPTURE"))
     Capture(fenêtre, table, plateforme, QString::fromLocal8Bit(fichier));
@@ -124,6 +132,22 @@ int main(int argc, char *argv[]) {
     QTimer::singleShot(3000, &fenêtre, [&fenêtre, &table] {
       fenêtre.Événement([&table] { table.NouveauJeu_MouseUp(); });
     });
+  // And a hurry so many milliseconds into that deal: how long until GO shows.
+  QTimer guetteGo;
+  if (const char *délai = std::getenv("TN_PRESSE_APRES")) {
+    QTimer::singleShot(3000 + std::atoi(délai), &fenêtre, [&] {
+      plateforme.Presse();
+      if (plateforme.pressé) // else the search was already over
+        guetteGo.start(1);
+    });
+    QObject::connect(&guetteGo, &QTimer::timeout, [&] {
+      if (!table.Fenêtre.Joue.Visible)
+        return;
+      guetteGo.stop();
+      std::fprintf(stderr, "de la pression à GO : %lld ms\n",
+                   static_cast<long long>(plateforme.depuisPression.elapsed()));
+    });
+  }
   if (const char *délai = std::getenv("TN_QUITTE_APRES"))
     QTimer::singleShot(std::atoi(délai), &fenêtre, [&fenêtre, &table] {
       fenêtre.Événement([&table] { table.Fin_MouseUp(); });

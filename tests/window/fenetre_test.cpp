@@ -6,40 +6,8 @@
 #include <QTest>
 #include <QTimer>
 
-#include "core/table_state.h"
-#include "dossier_essai.h"
-#include "platform/qt/fenetre_table.h"
 #include "platform/qt/images.h"
-#include "platform/qt/plateforme_qt.h"
-
-namespace {
-
-struct Table {
-  DossierEssai dossier;
-  struct Plateforme : PlateformeQt {
-    std::string dossier;
-    std::string DossierDesDonnées() override { return dossier; }
-  } plateforme;
-  TroisNiveaux t{plateforme};
-  FenêtreTable fenêtre{t, plateforme};
-
-  Table() {
-    plateforme.dossier = dossier.Chemin();
-    plateforme.dialogues = false;
-    plateforme.duréeParSiège = 0;
-    t.Form_Load();
-    fenêtre.Synchronise();
-    fenêtre.show();
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(&fenêtre));
-  }
-  QWidget *Vue(const Contrôle &c) { return fenêtre.Vue(c); }
-  void Clic(const Contrôle &c) { QTest::mouseClick(Vue(c), Qt::LeftButton); }
-  QColor Pixel(const Contrôle &c, QPoint où) {
-    return Vue(c)->grab().toImage().pixelColor(où * Vue(c)->devicePixelRatioF());
-  }
-};
-
-} // namespace
+#include "table_essai.h"
 
 TEST(Fenêtre, LesContrôlesSontÀLeurPlaceEtDansLeursCouleurs) {
   Table table;

@@ -5,37 +5,15 @@
 #include <QPushButton>
 #include <QTest>
 
-#include "core/table_state.h"
-#include "dossier_essai.h"
 #include "files/historique.h"
-#include "platform/qt/fenetre_table.h"
 #include "platform/qt/panneau_historique.h"
-#include "platform/qt/plateforme_qt.h"
+#include "table_essai.h"
 
 namespace {
 
-struct Table {
-  DossierEssai dossier;
-  struct Plateforme : PlateformeQt {
-    std::string dossier;
-    std::string DossierDesDonnées() override { return dossier; }
-  } plateforme;
-  TroisNiveaux t{plateforme};
-  FenêtreTable fenêtre{t, plateforme};
-
-  Table() {
-    plateforme.dossier = dossier.Chemin();
-    plateforme.dialogues = false;
-    plateforme.duréeParSiège = 0;
-    t.Form_Load();
-    fenêtre.Synchronise();
-    fenêtre.show();
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(&fenêtre));
-  }
-  PanneauHistorique *Panneau() {
-    return fenêtre.findChild<PanneauHistorique *>("panneauHistorique");
-  }
-};
+PanneauHistorique *Panneau(Table &table) {
+  return table.fenêtre.findChild<PanneauHistorique *>("panneauHistorique");
+}
 
 } // namespace
 
@@ -51,7 +29,7 @@ TEST(PanneauHistorique, SesChiffresSontCeuxDuFichier) {
   table.t.Joue_Click();
   table.fenêtre.Synchronise();
 
-  PanneauHistorique *panneau = table.Panneau();
+  PanneauHistorique *panneau = Panneau(table);
   ASSERT_NE(panneau, nullptr);
   EXPECT_FALSE(panneau->isVisible());
   panneau->Bascule();
@@ -90,7 +68,7 @@ TEST(PanneauHistorique, SesChiffresSontCeuxDuFichier) {
 
 TEST(PanneauHistorique, SansFichierOuÀToutesLesTaillesIlSeMontre) {
   Table table;
-  PanneauHistorique *panneau = table.Panneau();
+  PanneauHistorique *panneau = Panneau(table);
   panneau->Bascule();
   EXPECT_EQ(panneau->Figures().donnes, 0);
   EXPECT_EQ(panneau->Tableau()[1][2], "—");
@@ -109,4 +87,28 @@ TEST(PanneauHistorique, SansFichierOuÀToutesLesTaillesIlSeMontre) {
     EXPECT_GT(r.width(), taille.width() * 0.6);
     EXPECT_LT(panneau->BoutonFermer()->geometry().bottom(), r.height());
   }
+}
+
+TEST(PanneauHistorique, SesTouchesEtRienDeLaTableDerrièreLui) {
+  Table table;
+  PanneauHistorique *panneau = Panneau(table);
+  auto &f = table.t.Fenêtre;
+  table.Touche(Qt::Key_F9);
+  ASSERT_TRUE(panneau->isVisible());
+  // JOUER's key does not deal behind the panel, nor Entrée press GO.
+  table.Touche(Qt::Key_F2);
+  table.Touche(Qt::Key_F6);
+  EXPECT_TRUE(f.NouveauJeu.Enabled);
+  EXPECT_TRUE(f.CartesJeu[39].Picture == f.CartesJeu[0].Picture) << "no deal was made";
+  EXPECT_FALSE(table.dossier.Existe("Tirage"));
+  EXPECT_TRUE(panneau->isVisible());
+  table.Touche(Qt::Key_Escape);
+  EXPECT_FALSE(panneau->isVisible());
+  table.Touche(Qt::Key_F9);
+  EXPECT_TRUE(panneau->isVisible());
+  table.Touche(Qt::Key_F9);
+  EXPECT_FALSE(panneau->isVisible());
+  // Closed, the table has its keys again.
+  table.Touche(Qt::Key_F2);
+  EXPECT_TRUE(table.dossier.Existe("Tirage"));
 }

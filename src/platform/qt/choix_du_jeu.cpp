@@ -6,7 +6,6 @@
 #include <QFile>
 #include <QLabel>
 #include <QPointer>
-#include <QShortcut>
 #include <QTimer>
 #include <cmath>
 #include <cstdio>
@@ -176,6 +175,4 @@ void InstalleChoixDuJeu(QWidget *fenêtre) {
   jeux::Choisit(curseur);
   if (std::getenv("TN_MESURE_JEUX"))
     MesureLesJeux(fenêtre);
-  auto *raccourci = new QShortcut(Qt::Key_F8, fenêtre);
-  QObject::connect(raccourci, &QShortcut::activated, fenêtre, [fenêtre] { JeuSuivant(fenêtre); });
 }

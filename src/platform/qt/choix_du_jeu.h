@@ -5,7 +5,7 @@
 class QLabel;
 class QWidget;
 
-// Sets the remembered deck going and binds F8 on `fenêtre`.
+// Sets the remembered deck going; F8 (bound by the window) calls JeuSuivant.
 void InstalleChoixDuJeu(QWidget *fenêtre);
 // The deck after the chosen one, as F8 does it; the label that shows its
 // name, for tests.

@@ -2,8 +2,11 @@
 // The table on screen: one widget per control of the model, the stars on
 // the background, and every mouse release, click, key and timer tick sent to
 // the game's handler of that name. After each event the widgets are brought
-// in line with the model, only where something changed.
+// in line with the model, only where something changed. The table keeps its
+// design and grows with the window: one factor turns twips into pixels, and
+// the table stands in the middle of the window on black.
 
+#include <QHash>
 #include <QTimer>
 #include <QWidget>
 #include <functional>
@@ -14,6 +17,8 @@
 class TroisNiveaux;
 class PlateformeQt;
 class VueContrôle;
+class FondÉtoilé;
+class Clavier;
 
 class FenêtreTable : public QWidget {
 public:
@@ -28,25 +33,40 @@ public:
   void PourChaqueVue(const std::function<void(const Contrôle &, QWidget *)> &f) const;
   // Runs a handler as an event of the window: then the widgets follow.
   void Événement(const std::function<void()> &gestionnaire);
-  QWidget *Fond() const { return fond; }
+  QWidget *Fond() const;
   // Called once, when the table is first painted.
   void PremierAffichage(std::function<void()> rappel);
 
+  // Pixels on screen per pixel of the designed 1024 x 768 table.
+  const double &Échelle() const { return échelle; }
+  // F11: full screen and back to the window as it was.
+  void BasculePleinÉcran();
+  // Opens at the size the player last left the game at; the size is kept
+  // again when the window goes.
+  void RetrouveTaille();
+  Clavier &Touches() const { return *clavier; }
+
 protected:
   void closeEvent(QCloseEvent *event) override;
+  void resizeEvent(QResizeEvent *event) override;
+  void paintEvent(QPaintEvent *event) override;
+  void keyPressEvent(QKeyEvent *event) override;
 
 private:
   void Construit();
   void Relie();
-  void Raccourcis();
   void SynchroniseMinuteries();
-  void DéplaceÉtoiles();
+  void MémoriseTaille();
 
   TroisNiveaux &t;
   PlateformeQt &plateforme;
-  QWidget *fond = nullptr;
+  double échelle = 1.0;
+  FondÉtoilé *fond = nullptr;
   std::vector<VueContrôle *> vues;
+  QHash<const Contrôle *, VueContrôle *> vueDe;
+  Clavier *clavier = nullptr;
   QTimer étoiles, temps, nonConnecté;
   bool fermé = false;
-  float anciensX[51] = {}, anciensY[51] = {};
+  bool mémoriseTaille = false;
+  Qt::WindowStates avantPleinÉcran = Qt::WindowNoState;
 };

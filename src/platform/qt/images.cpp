@@ -1,7 +1,7 @@
 #include "platform/qt/images.h"
 
+#include <QCache>
 #include <QFont>
-#include <QHash>
 #include <QPainter>
 #include <QPainterPath>
 #include <cmath>
@@ -288,11 +288,15 @@ QPixmap Image(int index, QSize taille, qreal ratio) {
   // The cards come from the chosen deck where it has the picture.
   if (QPixmap image = jeux::Image(index, taille, ratio); !image.isNull())
     return image;
-  static QHash<QString, QPixmap> cache;
+  // Bounded, since a window dragged through many sizes leaves a set of
+  // pictures at each one; in kilobytes, room for the table at a few sizes.
+  static QCache<QString, QPixmap> cache(64 * 1024);
   const QString clé =
       QString("%1/%2x%3/%4").arg(index).arg(taille.width()).arg(taille.height()).arg(ratio);
-  auto it = cache.find(clé);
-  if (it == cache.end())
-    it = cache.insert(clé, QPixmap::fromImage(ImageBrute(index, taille, ratio)));
-  return *it;
+  if (const QPixmap *trouvée = cache.object(clé))
+    return *trouvée;
+  QPixmap image = QPixmap::fromImage(ImageBrute(index, taille, ratio));
+  const qsizetype coût = std::max<qsizetype>(1, image.width() * image.height() * 4 / 1024);
+  cache.insert(clé, new QPixmap(image), coût);
+  return image;
 }

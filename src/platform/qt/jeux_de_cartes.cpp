@@ -1,12 +1,13 @@
 #include "platform/qt/jeux_de_cartes.h"
 
+#include "platform/qt/reglages.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QGuiApplication>
 #include <QLoggingCategory>
 #include <QPainter>
-#include <QSettings>
 #include <QStandardPaths>
 #include <QSvgRenderer>
 #include <QThreadPool>
@@ -298,27 +299,15 @@ void Choisit(int numéro, std::function<void(bool)> prêt) {
   Demande(e.dernièreTaille, ratio);
 }
 
-namespace {
-
-// The user's settings of the game: those the application names, or the
-// game's own name where none is given (Qt would file them under an
-// "Unknown Organization").
-std::unique_ptr<QSettings> Réglages() {
-  if (QCoreApplication::organizationName().isEmpty())
-    return std::make_unique<QSettings>("TroisNiveaux", "TroisNiveaux");
-  return std::make_unique<QSettings>();
-}
-
-} // namespace
-
 void Retient(int numéro) {
-  Réglages()->setValue("cartes/jeu", numéro >= 1 && numéro <= static_cast<int>(Installés().size())
-                                         ? Installés()[numéro - 1].id
-                                         : QString());
+  RéglagesDuJoueur()->setValue("cartes/jeu",
+                               numéro >= 1 && numéro <= static_cast<int>(Installés().size())
+                                   ? Installés()[numéro - 1].id
+                                   : QString());
 }
 
 int Retrouve() {
-  const QString id = Réglages()->value("cartes/jeu").toString();
+  const QString id = RéglagesDuJoueur()->value("cartes/jeu").toString();
   const auto &jeux = Installés();
   for (std::size_t n = 0; n < jeux.size(); ++n)
     if (!id.isEmpty() && jeux[n].id == id)

@@ -6,7 +6,6 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPushButton>
-#include <QShortcut>
 #include <QTimer>
 #include <algorithm>
 #include <cmath>
@@ -286,8 +285,6 @@ void PanneauHistorique::Dessine() {
 
 PanneauHistorique *InstalleHistorique(QWidget *fenêtre, TroisNiveaux &t) {
   auto *panneau = new PanneauHistorique(t, fenêtre);
-  auto *raccourci = new QShortcut(Qt::Key_F9, fenêtre);
-  QObject::connect(raccourci, &QShortcut::activated, panneau, [panneau] { panneau->Bascule(); });
   // TN_CAPTURE_HISTORIQUE=file.png: the window with the panel open, saved
   // once the table is up, then the program ends. The README's picture.
   if (const char *fichier = std::getenv("TN_CAPTURE_HISTORIQUE"))

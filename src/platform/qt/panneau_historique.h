@@ -47,5 +47,5 @@ private:
   QPixmap image;
 };
 
-// Creates the panel, hidden, and binds F9 on `fenêtre`.
+// Creates the panel, hidden; F9 (bound by the window) calls Bascule.
 PanneauHistorique *InstalleHistorique(QWidget *fenêtre, TroisNiveaux &t);

@@ -30,7 +30,8 @@ void PlateformeQt::TourDeBoucle() {
 // until this group's moment in an even schedule over the seat's sweep, so the
 // bar fills smoothly and the human has time to lay out cards.
 void PlateformeQt::TourDeBalayage(int siège, int groupe) {
-  (void)siège;
+  if (siège == 0 && groupe == 0)
+    pressé = false;
   // Only the stretches inside a sweep count: before it the table was idle.
   if (groupe == 0)
     débutDuSiège.start();
@@ -38,11 +39,11 @@ void PlateformeQt::TourDeBalayage(int siège, int groupe) {
     plusLongSansÉvénements = std::max(plusLongSansÉvénements, depuisDernierTour.elapsed());
   TourDeBoucle();
   depuisDernierTour.restart();
-  if (duréeParSiège <= 0 || !débutDuSiège.isValid())
+  if (duréeParSiège <= 0 || pressé || !débutDuSiège.isValid())
     return;
   const qint64 échéance = static_cast<qint64>(duréeParSiège * 1000.0 * (groupe + 1) / 1287);
   for (;;) {
-    if (quitté || !table || table->SessionTerminée || !table->Fenêtre.Arrêt.Enabled)
+    if (quitté || pressé || !table || table->SessionTerminée || !table->Fenêtre.Arrêt.Enabled)
       return;
     const qint64 reste = échéance - débutDuSiège.elapsed();
     if (reste <= 0)
@@ -55,6 +56,13 @@ void PlateformeQt::TourDeBalayage(int siège, int groupe) {
     if (aprèsTour)
       aprèsTour();
   }
+}
+
+void PlateformeQt::Presse() {
+  if (!table || !table->BalayageEnCours || pressé)
+    return;
+  pressé = true;
+  depuisPression.start();
 }
 
 void PlateformeQt::Quitte() {

@@ -30,6 +30,12 @@ public:
 
   // Seconds that one seat's sweep lasts on screen; 0 runs it flat out.
   double duréeParSiège = 8.0;
+  // The player hurries the computer: the rest of the running sweep goes
+  // flat out. The next sweep is paced again.
+  void Presse();
+  bool pressé = false;
+  // Since the last hurry, for the figures.
+  QElapsedTimer depuisPression;
   // Messages go to a dialog unless a test turns that off.
   bool dialogues = true;
   // The game whose stop signal cuts a paced wait short.

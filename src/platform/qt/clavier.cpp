@@ -1,0 +1,381 @@
+#include "platform/qt/clavier.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPainter>
+#include <cmath>
+
+#include "core/table_state.h"
+#include "platform/qt/fenetre_table.h"
+#include "platform/qt/plateforme_qt.h"
+
+namespace {
+
+// A frame round the card the keyboard stands on. It takes no click: the
+// card under it still gets the mouse.
+class CadreClavier : public QWidget {
+public:
+  CadreClavier(const double &échelle, QWidget *parent) : QWidget(parent), échelle(échelle) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setProperty("tnHorsEchelle", true);
+    hide();
+  }
+
+protected:
+  void paintEvent(QPaintEvent *) override {
+    QPainter p(this);
+    p.setRenderHint(QPainter::Antialiasing);
+    const qreal trait = std::max(2.0, 3.0 * échelle);
+    p.setPen(QPen(QColor(255, 210, 0), trait));
+    p.setBrush(Qt::NoBrush);
+    const qreal d = trait / 2;
+    p.drawRoundedRect(QRectF(rect()).adjusted(d, d, -d, -d), 4 * échelle, 4 * échelle);
+  }
+
+private:
+  const double &échelle;
+};
+
+} // namespace
+
+Clavier::Clavier(FenêtreTable &fenêtre, TroisNiveaux &t, PlateformeQt &plateforme)
+    : QObject(&fenêtre), fenêtre(fenêtre), t(t), plateforme(plateforme) {
+  auto &f = t.Fenêtre;
+  cadre = new CadreClavier(fenêtre.Échelle(), fenêtre.Vue(f.SSJoueurFond[3]));
+  // Entrée is GO; while the computer still searches, it hurries it.
+  for (const Qt::Key entrée : {Qt::Key_Return, Qt::Key_Enter})
+    Ajoute(entrée, [this] {
+      auto &f = this->t.Fenêtre;
+      if (f.Joue.Visible && f.Joue.Enabled) {
+        this->fenêtre.Événement([this] { this->t.Joue_Click(); });
+        return true;
+      }
+      if (this->t.BalayageEnCours) {
+        this->plateforme.Presse();
+        return true;
+      }
+      return false;
+    });
+  AjoutePourContrôles(Qt::Key_F2, {{&f.NouveauJeu, [this] { this->t.NouveauJeu_MouseUp(); }}});
+  AjoutePourContrôles(Qt::Key_Escape, {{&f.Arrêt, [this] { this->t.Arrêt_MouseUp(); }}});
+  AjoutePourContrôles(Qt::Key_F3, {{&f.Rejoue, [this] { this->t.Rejoue_MouseUp(); }}});
+  AjoutePourContrôles(Qt::Key_F4, {{&f.Mode, [this] { this->t.Mode_MouseUp(); }}});
+  AjoutePourContrôles(Qt::Key_F5, {{&f.NomsJoueurs, [this] { this->t.NomsJoueurs_MouseUp(); }}});
+  AjoutePourContrôles(Qt::Key_F6, {{&f.Scoresà0, [this] { this->t.Scoresà0_MouseUp(); }}});
+  // The book's button lies over its OK, so it is tried first.
+  AjoutePourContrôles(Qt::Key_F1, {{&f.VoirRègles[0], [this] { this->t.VoirRègles_Click(0); }},
+                                   {&f.VoirRègles[1], [this] { this->t.VoirRègles_Click(1); }}});
+  AjoutePourContrôles(Qt::Key_F7, {{&f.VoirOrdi[0], [this] { this->t.VoirOrdi_Click(0); }},
+                                   {&f.VoirOrdi[1], [this] { this->t.VoirOrdi_Click(1); }}});
+  AjoutePourContrôles(Qt::Key_PageUp,
+                      {{&f.TextScroll[0], [this] { this->t.TextScroll_Click(0); }}});
+  AjoutePourContrôles(Qt::Key_PageDown,
+                      {{&f.TextScroll[1], [this] { this->t.TextScroll_Click(1); }}});
+  AjoutePourContrôles(QKeyCombination(Qt::ControlModifier, Qt::Key_Q),
+                      {{&f.Fin, [this] { this->t.Fin_MouseUp(); }}});
+  Ajoute(Qt::Key_F11, [this] {
+    this->fenêtre.BasculePleinÉcran();
+    return true;
+  });
+  Ajoute(Qt::Key_Space, [this] { return Espace(); });
+  const std::pair<Qt::Key, QPoint> flèches[] = {{Qt::Key_Left, {-1, 0}},
+                                                {Qt::Key_Right, {1, 0}},
+                                                {Qt::Key_Up, {0, -1}},
+                                                {Qt::Key_Down, {0, 1}}};
+  for (const auto &[touche, sens] : flèches)
+    Ajoute(touche, [this, sens] {
+      DéplaceCadre(sens.x(), sens.y());
+      return true;
+    });
+
+  fenêtre.Vue(f.Joue)->setToolTip("GO — touche " + NomDeTouche(Qt::Key_Return));
+  fenêtre.Vue(f.VoirOrdi[0])->setToolTip("Solution de l'ordinateur — touche F7");
+  fenêtre.Vue(f.VoirRègles[0])->setToolTip("Règles du jeu — touche F1");
+  fenêtre.Vue(f.TextScroll[0])->setToolTip("Page précédente — touche Page préc.");
+  fenêtre.Vue(f.TextScroll[1])->setToolTip("Page suivante — touche Page suiv.");
+  const QString presse = "L'ordinateur cherche : un clic ici ou la touche " +
+                         NomDeTouche(Qt::Key_Return) + " lui fait finir sa recherche sans attendre";
+  for (const Contrôle *c : {&f.TempsSS, &f.TempsFondSS, &f.TempsShape, &f.TempsLabel})
+    fenêtre.Vue(*c)->setToolTip(presse);
+  OrdreDeTabulation();
+  qApp->installEventFilter(this);
+}
+
+void Clavier::Ajoute(QKeyCombination touche, std::function<bool()> action) {
+  raccourcis.push_back({touche, std::move(action)});
+}
+
+void Clavier::AjoutePourContrôles(
+    QKeyCombination touche,
+    std::vector<std::pair<const Contrôle *, std::function<void()>>> cibles) {
+  Ajoute(touche, [this, cibles] {
+    for (const auto &[contrôle, gestionnaire] : cibles)
+      if (contrôle->Visible && contrôle->Enabled) {
+        fenêtre.Événement(gestionnaire);
+        return true;
+      }
+    return false;
+  });
+  for (const auto &cible : cibles) {
+    QWidget *vue = fenêtre.Vue(*cible.first);
+    const QString nom = cible.first->Caption.empty()
+                            ? QString()
+                            : QString::fromStdString(cible.first->Caption) + " — ";
+    if (vue && vue->toolTip().isEmpty())
+      vue->setToolTip(nom + "touche " + NomDeTouche(touche));
+  }
+}
+
+QString Clavier::NomDeTouche(QKeyCombination touche) {
+  QString nom;
+  switch (touche.key()) {
+  case Qt::Key_Return:
+  case Qt::Key_Enter:
+    nom = "Entrée";
+    break;
+  case Qt::Key_Escape:
+    nom = "Échap";
+    break;
+  case Qt::Key_Space:
+    nom = "Espace";
+    break;
+  case Qt::Key_PageUp:
+    nom = "Page préc.";
+    break;
+  case Qt::Key_PageDown:
+    nom = "Page suiv.";
+    break;
+  case Qt::Key_Tab:
+    nom = "Tab";
+    break;
+  default:
+    nom = QKeySequence(touche.key()).toString(QKeySequence::PortableText);
+  }
+  if (touche.keyboardModifiers() & Qt::ShiftModifier)
+    nom = "Maj+" + nom;
+  if (touche.keyboardModifiers() & Qt::ControlModifier)
+    nom = "Ctrl+" + nom;
+  return nom;
+}
+
+// A text box holds the keyboard: its keys are its own.
+bool Clavier::Saisie() const {
+  const QWidget *focus = fenêtre.focusWidget();
+  return focus && focus->isVisible() && qobject_cast<const QLineEdit *>(focus);
+}
+
+void Clavier::AjoutePanneau(QWidget *panneau, QKeyCombination touche,
+                            std::function<void()> bascule) {
+  panneaux.push_back({panneau, touche, bascule});
+  Ajoute(touche, [bascule] {
+    bascule();
+    return true;
+  });
+}
+
+bool Clavier::Touche(QKeyEvent *e) {
+  const Qt::Key touche = static_cast<Qt::Key>(e->key());
+  const Qt::KeyboardModifiers modifs = e->modifiers() & ~Qt::KeypadModifier;
+  auto &f = t.Fenêtre;
+  for (const Panneau &panneau : panneaux) {
+    if (!panneau.vue->isVisible())
+      continue;
+    if (e->isAutoRepeat())
+      return true;
+    const QKeyCombination reçue(modifs, touche);
+    if (reçue == panneau.touche || (modifs == Qt::NoModifier && touche == Qt::Key_Escape)) {
+      panneau.bascule();
+      return true;
+    }
+    if (modifs == Qt::NoModifier && touche == Qt::Key_F11) {
+      fenêtre.BasculePleinÉcran();
+      return true;
+    }
+    if (reçue == QKeyCombination(Qt::ControlModifier, Qt::Key_Q))
+      break;
+    return true;
+  }
+  // The names panel is a small form: Entrée keeps, Échap leaves, and no key
+  // of the table acts behind it (the table's own F11 aside).
+  if (f.NomsJoueursSS.Visible || Saisie()) {
+    if (e->isAutoRepeat())
+      return true;
+    const Contrôle *bouton = nullptr;
+    std::function<void()> gestionnaire;
+    if (modifs == Qt::NoModifier && (touche == Qt::Key_Return || touche == Qt::Key_Enter)) {
+      bouton = &f.EnregistreNoms;
+      gestionnaire = [this] { t.EnregistreNoms_MouseUp(); };
+    } else if (modifs == Qt::NoModifier && touche == Qt::Key_Escape) {
+      bouton = &f.AnnuleNoms;
+      gestionnaire = [this] { t.AnnuleNoms_MouseUp(); };
+    } else if (modifs == Qt::NoModifier && touche == Qt::Key_F11) {
+      fenêtre.BasculePleinÉcran();
+      return true;
+    }
+    if (!bouton || !f.NomsJoueursSS.Visible || !bouton->Visible || !bouton->Enabled)
+      return false;
+    fenêtre.Événement(gestionnaire);
+    return true;
+  }
+  const bool flèche = touche == Qt::Key_Left || touche == Qt::Key_Right || touche == Qt::Key_Up ||
+                      touche == Qt::Key_Down;
+  if (e->isAutoRepeat() && !flèche)
+    return true; // a key held down acts once
+  for (const Raccourci &r : raccourcis)
+    if (r.touche.key() == touche && r.touche.keyboardModifiers() == modifs && r.action())
+      return true;
+  return false;
+}
+
+// The frame moves to the nearest place on that side: along its row for Left
+// and Right, to the next row up or down for Up and Down.
+void Clavier::DéplaceCadre(int dx, int dy) {
+  // Arrows take the keyboard back from a button, so Espace acts on the cards.
+  if (QWidget *focus = fenêtre.focusWidget(); focus && focus != &fenêtre)
+    fenêtre.setFocus(Qt::OtherFocusReason);
+  if (!CadreVisible()) {
+    MontreCadre();
+    return;
+  }
+  const auto &cartes = t.Fenêtre.CartesJeu;
+  const Contrôle &ici = cartes[39 + place];
+  int meilleure = -1;
+  long meilleurÉcart = 0;
+  for (int k = 0; k <= 12; ++k) {
+    const Contrôle &là = cartes[39 + k];
+    const long x = là.Left - ici.Left, y = là.Top - ici.Top;
+    long écart;
+    if (dx != 0) {
+      if (y != 0 || x * dx <= 0)
+        continue;
+      écart = std::labs(x);
+    } else {
+      if (y * dy <= 0)
+        continue;
+      écart = 100000L * std::labs(y) + std::labs(x); // the next row first
+    }
+    if (meilleure < 0 || écart < meilleurÉcart) {
+      meilleure = k;
+      meilleurÉcart = écart;
+    }
+  }
+  if (meilleure >= 0)
+    place = meilleure;
+  MontreCadre();
+}
+
+// The part of the place's card that shows: the next place of its row lies
+// over its right side and the row in front over its lower side.
+QRect Clavier::PartieVisible() const {
+  const auto géométrie = [this](int k) {
+    return fenêtre.Vue(t.Fenêtre.CartesJeu[39 + k])->geometry();
+  };
+  const QRect carte = géométrie(place);
+  QRect visible = carte;
+  for (int k = 0; k <= 12; ++k) {
+    const QRect devant = géométrie(k);
+    if (k == place || !devant.intersects(visible))
+      continue;
+    if (devant.top() == carte.top() && devant.left() > carte.left())
+      visible.setRight(std::min(visible.right(), devant.left() - 1));
+    else if (devant.top() > carte.top())
+      visible.setBottom(std::min(visible.bottom(), devant.top() - 1));
+  }
+  return visible;
+}
+
+void Clavier::MontreCadre() {
+  QWidget *carte = fenêtre.Vue(t.Fenêtre.CartesJeu[39 + place]);
+  cadre->setGeometry(PartieVisible());
+  cadre->show();
+  cadre->raise();
+  if (QAccessible::isActive()) {
+    QAccessibleEvent focus(carte, QAccessible::Focus);
+    QAccessible::updateAccessibility(&focus);
+  }
+}
+
+bool Clavier::CadreVisible() const { return cadre->isVisibleTo(cadre->parentWidget()); }
+
+void Clavier::CacheCadre() { cadre->hide(); }
+
+void Clavier::ChangeÉchelle() {
+  if (CadreVisible())
+    cadre->setGeometry(PartieVisible());
+}
+
+void Clavier::AprèsSynchronisation() {
+  const bool ouvert = t.Fenêtre.NomsJoueursSS.Visible;
+  if (ouvert == panneauOuvert)
+    return;
+  panneauOuvert = ouvert;
+  if (ouvert)
+    fenêtre.Vue(t.Fenêtre.NomsJoueursText[0])
+        ->findChild<QLineEdit *>()
+        ->setFocus(Qt::OtherFocusReason);
+  else
+    fenêtre.setFocus(Qt::OtherFocusReason);
+}
+
+// Espace is a mouse release on the place under the frame; the first press
+// only shows the frame.
+bool Clavier::Espace() {
+  if (!CadreVisible()) {
+    MontreCadre();
+    return true;
+  }
+  const int index = 39 + place;
+  const Contrôle &carte = t.Fenêtre.CartesJeu[index];
+  if (carte.Visible && carte.Enabled)
+    fenêtre.Événement([this, index] { t.CartesJeu_MouseUp(index); });
+  return true;
+}
+
+void Clavier::OrdreDeTabulation() {
+  auto &f = t.Fenêtre;
+  const Contrôle *ordre[] = {&f.NouveauJeu,
+                             &f.Joue,
+                             &f.Arrêt,
+                             &f.Rejoue,
+                             &f.Mode,
+                             &f.NomsJoueurs,
+                             &f.Scoresà0,
+                             &f.VoirOrdi[0],
+                             &f.VoirOrdi[1],
+                             &f.VoirRègles[0],
+                             &f.VoirRègles[1],
+                             &f.TextScroll[0],
+                             &f.TextScroll[1],
+                             &f.NomsJoueursText[0],
+                             &f.NomsJoueursText[1],
+                             &f.NomsJoueursText[2],
+                             &f.NomsJoueursText[3],
+                             &f.EnregistreNoms,
+                             &f.AnnuleNoms,
+                             &f.NonConnectéCmd,
+                             &f.Fin};
+  QWidget *avant = nullptr;
+  for (const Contrôle *c : ordre) {
+    QWidget *vue = fenêtre.Vue(*c);
+    if (auto *saisie = vue->findChild<QLineEdit *>())
+      vue = saisie;
+    if (avant)
+      QWidget::setTabOrder(avant, vue);
+    avant = vue;
+  }
+}
+
+// A click anywhere on the table, or Tab to a button, hides the frame: the
+// mouse or the buttons have the hand again.
+bool Clavier::eventFilter(QObject *objet, QEvent *e) {
+  const bool clic = e->type() == QEvent::MouseButtonPress;
+  const bool tab =
+      e->type() == QEvent::KeyPress && (static_cast<QKeyEvent *>(e)->key() == Qt::Key_Tab ||
+                                        static_cast<QKeyEvent *>(e)->key() == Qt::Key_Backtab);
+  if ((clic || tab) && objet->isWidgetType() &&
+      static_cast<QWidget *>(objet)->window() == &fenêtre && CadreVisible())
+    CacheCadre();
+  return false;
+}

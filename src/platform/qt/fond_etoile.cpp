@@ -1,0 +1,113 @@
+#include "platform/qt/fond_etoile.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <tuple>
+
+#include "core/table_state.h"
+
+namespace {
+
+// A star is a dot of a pixel or two at the designed size: drawn once per
+// radius, scale and ratio, then copied, which costs far less than a curve
+// at each of 64 ticks a second.
+const QImage &Étoile(int rayonTwips, double échelle, qreal ratio) {
+  static std::map<std::tuple<int, double, qreal>, QImage> cache;
+  const auto clé = std::make_tuple(rayonTwips, échelle, ratio);
+  auto it = cache.find(clé);
+  if (it == cache.end()) {
+    if (cache.size() > 400) // a window dragged through many sizes
+      cache.clear();
+    const qreal rayon = std::max(0.5, rayonTwips * échelle / 15.0);
+    const int côté = 2 * static_cast<int>(std::ceil(rayon)) + 2;
+    QImage image(QSize(côté, côté) * ratio, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::transparent);
+    QPainter p(&image);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(Qt::NoPen);
+    p.setBrush(Qt::white);
+    p.drawEllipse(QPointF(côté / 2.0, côté / 2.0), rayon, rayon);
+    p.end();
+    it = cache.emplace(clé, image).first;
+  }
+  return it->second;
+}
+
+} // namespace
+
+FondÉtoilé::FondÉtoilé(TroisNiveaux &t, const double &échelle, QWidget *parent)
+    : QWidget(parent), t(t), échelle(échelle) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+QPointF FondÉtoilé::Centre(float x, float y) const {
+  return QPointF(x * échelle / 15.0, y * échelle / 15.0);
+}
+
+void FondÉtoilé::paintEvent(QPaintEvent *e) {
+  QPainter p(this);
+  for (const QRect &r : e->region())
+    p.fillRect(r, Qt::black);
+  const qreal ratio = devicePixelRatioF();
+  for (int i = 1; i <= 50; ++i) {
+    const QImage &étoile = Étoile(t.EtoileRayon[i], échelle, ratio);
+    const QSizeF taille = étoile.deviceIndependentSize();
+    const QPointF coin =
+        Centre(t.EtoileX[i], t.EtoileY[i]) - QPointF(taille.width() / 2, taille.height() / 2);
+    if (e->region().intersects(QRectF(coin, taille).toAlignedRect()))
+      p.drawImage(coin, étoile);
+  }
+  if (premierAffichage) {
+    auto rappel = std::move(premierAffichage);
+    premierAffichage = nullptr;
+    rappel();
+  }
+}
+
+void FondÉtoilé::AvantTick() {
+  std::copy(std::begin(t.EtoileX), std::end(t.EtoileX), anciensX);
+  std::copy(std::begin(t.EtoileY), std::end(t.EtoileY), anciensY);
+}
+
+void FondÉtoilé::AprèsTick() {
+  // A star that only fell is one strip from its old place to its new one,
+  // so the server gets some fifty small rectangles a tick. One that lies
+  // wholly under a panel is left out; the panels being opaque, Qt itself
+  // keeps the rest of the paint off them.
+  QRect couvert[16];
+  int nombre = 0;
+  for (const QObject *objet : children())
+    if (objet->isWidgetType() && nombre < 16) {
+      const auto *enfant = static_cast<const QWidget *>(objet);
+      if (enfant->isVisible())
+        couvert[nombre++] = enfant->geometry();
+    }
+  const auto caché = [&](const QRect &r) {
+    for (int n = 0; n < nombre; ++n)
+      if (couvert[n].contains(r))
+        return true;
+    return false;
+  };
+  QRegion àRepeindre;
+  const QRect tout = rect();
+  for (int i = 1; i <= 50; ++i) {
+    const int marge = 2 + static_cast<int>(std::ceil(t.EtoileRayon[i] * échelle / 15.0));
+    const auto carré = [marge](QPointF centre) {
+      return QRect(centre.toPoint() - QPoint(marge, marge), QSize(2 * marge + 1, 2 * marge + 1));
+    };
+    const QRect avant = carré(Centre(anciensX[i], anciensY[i]));
+    const QRect après = carré(Centre(t.EtoileX[i], t.EtoileY[i]));
+    // A star back at the top is two squares, far apart.
+    const bool tombée = après.top() >= avant.top();
+    const QRect morceaux[2] = {tombée ? (avant | après) : avant, tombée ? QRect() : après};
+    for (const QRect &r : morceaux)
+      if (r.intersects(tout) && !caché(r))
+        àRepeindre += r & tout;
+  }
+  if (!àRepeindre.isEmpty())
+    update(àRepeindre);
+}

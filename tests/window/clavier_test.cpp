@@ -1,0 +1,186 @@
+#include <gtest/gtest.h>
+
+#include <QLineEdit>
+#include <QTest>
+#include <QTimer>
+#include <array>
+#include <set>
+
+#include "platform/qt/clavier.h"
+#include "table_essai.h"
+
+// The frame shows at the first arrow, walks the rows, marks nothing picked
+// up, and two Espace swap two places as two clicks would.
+TEST(Clavier, UnÉchangeAuClavierVautUnÉchangeÀLaSouris) {
+  Table table;
+  auto &f = table.t.Fenêtre;
+  Clavier &clavier = table.fenêtre.Touches();
+  table.Touche(Qt::Key_F2);
+  ASSERT_TRUE(f.Joue.Visible);
+  EXPECT_FALSE(clavier.CadreVisible());
+  table.Touche(Qt::Key_Right);
+  EXPECT_TRUE(clavier.CadreVisible());
+  EXPECT_EQ(clavier.PlaceDuCadre(), 0) << "the first key only shows the frame";
+  table.Touche(Qt::Key_Right);
+  table.Touche(Qt::Key_Right);
+  EXPECT_EQ(clavier.PlaceDuCadre(), 2);
+  // The frame goes round the strip of the card that shows, not under the
+  // next card where it would seem to mark that one.
+  QWidget *cadre = nullptr;
+  for (QWidget *w : table.Vue(f.SSJoueurFond[3])->findChildren<QWidget *>())
+    if (w->property("tnHorsEchelle").toBool())
+      cadre = w;
+  ASSERT_NE(cadre, nullptr);
+  EXPECT_EQ(cadre->geometry(), QRect(48, 152, 24, 135));
+  table.Touche(Qt::Key_Up);
+  EXPECT_EQ(clavier.PlaceDuCadre(), 7) << "level 2, same column";
+  table.Touche(Qt::Key_Up);
+  EXPECT_EQ(clavier.PlaceDuCadre(), 11) << "level 3, same column";
+  table.Touche(Qt::Key_Up);
+  table.Touche(Qt::Key_Right);
+  table.Touche(Qt::Key_Right);
+  EXPECT_EQ(clavier.PlaceDuCadre(), 12) << "the edges hold";
+
+  const auto Main = [&] {
+    std::array<uint8_t, 13> main;
+    std::copy(std::begin(table.t.Mains[4]), std::end(table.t.Mains[4]), main.begin());
+    return main;
+  };
+  const auto avant = Main();
+  table.Touche(Qt::Key_Space);
+  EXPECT_EQ(table.t.CarteLevée, 1);
+  EXPECT_EQ(f.CartesJeu[51].Picture, avant[12]) << "a card picked up stays where it is";
+  for (int i = 0; i < 4; ++i)
+    table.Touche(Qt::Key_Down);
+  EXPECT_EQ(clavier.PlaceDuCadre(), 3);
+  table.Touche(Qt::Key_Left);
+  EXPECT_EQ(clavier.PlaceDuCadre(), 2);
+  table.Touche(Qt::Key_Space);
+  EXPECT_EQ(table.t.CarteLevée, 0);
+
+  // The same exchange by mouse on a second table gives the same layout.
+  auto attendu = avant;
+  std::swap(attendu[2], attendu[12]);
+  EXPECT_EQ(Main(), attendu);
+  for (int k = 0; k <= 12; ++k)
+    EXPECT_EQ(f.CartesJeu[39 + k].Picture, attendu[k]) << k;
+  table.Clic(f.CartesJeu[39 + 12]);
+  table.Clic(f.CartesJeu[39 + 2]);
+  EXPECT_EQ(Main(), avant) << "and the mouse swaps them back";
+  EXPECT_FALSE(clavier.CadreVisible()) << "a click hides the frame";
+
+  // Once the deal is over Espace does nothing, as a click would.
+  table.Touche(Qt::Key_Return);
+  ASSERT_TRUE(f.VoirOrdi[0].Visible);
+  table.Touche(Qt::Key_Space);
+  table.Touche(Qt::Key_Space);
+  EXPECT_EQ(table.t.CarteLevée, 0);
+}
+
+// Tab and Maj+Tab walk the live buttons in the menu's order, skipping what
+// is hidden or off; Espace presses the one reached.
+TEST(Clavier, TabParcourtLesBoutonsActifs) {
+  Table table;
+  auto &f = table.t.Fenêtre;
+  table.Touche(Qt::Key_Tab);
+  EXPECT_EQ(table.fenêtre.focusWidget(), table.Vue(f.NouveauJeu));
+  table.Touche(Qt::Key_Tab);
+  EXPECT_EQ(table.fenêtre.focusWidget(), table.Vue(f.Arrêt)) << "GO is hidden";
+  table.Touche(Qt::Key_Tab, Qt::ShiftModifier);
+  EXPECT_EQ(table.fenêtre.focusWidget(), table.Vue(f.NouveauJeu));
+  QTest::keyClick(table.fenêtre.focusWidget(), Qt::Key_Space);
+  EXPECT_TRUE(f.Joue.Visible) << "Espace pressed JOUER";
+  std::set<QWidget *> atteints;
+  for (int i = 0; i < 20; ++i) {
+    table.Touche(Qt::Key_Tab);
+    atteints.insert(table.fenêtre.focusWidget());
+  }
+  for (const Contrôle *live : {&f.Joue, &f.Arrêt, &f.VoirRègles[0], &f.Fin})
+    EXPECT_TRUE(atteints.count(table.Vue(*live))) << live->Nom;
+  for (const Contrôle *off : {&f.NouveauJeu, &f.Rejoue, &f.VoirOrdi[0], &f.EnregistreNoms})
+    EXPECT_FALSE(atteints.count(table.Vue(*off))) << off->Nom;
+}
+
+// Enter in a name box was GO: in the state Waiting, STOP pressed, it showed
+// the deal down instead of keeping the name. In the panel Entrée keeps the
+// names, Échap leaves them, and no key of the table acts behind it.
+TEST(Clavier, EntréeDansLePanneauDesNomsEnregistreSansJouer) {
+  Table table;
+  auto &f = table.t.Fenêtre;
+  table.Touche(Qt::Key_F2);
+  table.Touche(Qt::Key_Escape);
+  ASSERT_TRUE(f.Joue.Visible && f.NouveauJeu.Enabled) << "Waiting, STOP pressed";
+  const std::string scores = table.dossier.Lit("Scores");
+  table.Clic(f.NomsJoueurs);
+  auto *saisie = table.Vue(f.NomsJoueursText[3])->findChild<QLineEdit *>();
+  QTest::mouseClick(saisie, Qt::LeftButton);
+  saisie->selectAll();
+  QTest::keyClicks(saisie, "Zoe");
+  for (const Qt::Key touche : {Qt::Key_F2, Qt::Key_F6, Qt::Key_F1, Qt::Key_Space})
+    QTest::keyClick(saisie, touche);
+  EXPECT_TRUE(f.NomsJoueursSS.Visible);
+  EXPECT_FALSE(f.RèglesText.Visible) << "F1 waits for the panel";
+  QTest::keyClick(saisie, Qt::Key_Return);
+  EXPECT_FALSE(f.NomsJoueursSS.Visible);
+  EXPECT_EQ(f.JoueursLabel[3].Caption, "Zoe ");
+  EXPECT_NE(table.dossier.Lit("Noms").find("\"Zoe \""), std::string::npos);
+  EXPECT_TRUE(f.Joue.Visible) << "GO was not pressed";
+  EXPECT_EQ(table.dossier.Lit("Scores"), scores);
+
+  table.Clic(f.NomsJoueurs);
+  QTest::keyClick(saisie, Qt::Key_Backspace);
+  QTest::keyClick(saisie, Qt::Key_Escape);
+  EXPECT_FALSE(f.NomsJoueursSS.Visible) << "Échap is ANNULE";
+  EXPECT_EQ(f.JoueursLabel[3].Caption, "Zoe ");
+  EXPECT_TRUE(f.Arrêt.Enabled) << "ANNULE gives STOP back, Échap did not press it";
+  EXPECT_TRUE(f.Joue.Visible);
+  // With the panel shut the table's keys work again.
+  table.Touche(Qt::Key_Return);
+  EXPECT_TRUE(f.VoirOrdi[0].Visible);
+}
+
+// A player without a mouse renames a seat: F5 opens the panel with the
+// keyboard in the first box, Entrée keeps the name and gives the keys back.
+TEST(Clavier, LePanneauDesNomsPrendLeClavierEnSOuvrant) {
+  Table table;
+  auto &f = table.t.Fenêtre;
+  table.Touche(Qt::Key_F5);
+  ASSERT_TRUE(f.NomsJoueursSS.Visible);
+  QWidget *saisie = table.fenêtre.focusWidget();
+  ASSERT_EQ(saisie, table.Vue(f.NomsJoueursText[0])->findChild<QLineEdit *>());
+  static_cast<QLineEdit *>(saisie)->selectAll();
+  QTest::keyClicks(saisie, "Ordi");
+  QTest::keyClick(saisie, Qt::Key_Return);
+  EXPECT_EQ(f.JoueursLabel[0].Caption, "Ordi");
+  EXPECT_EQ(table.fenêtre.focusWidget(), &table.fenêtre);
+  table.Touche(Qt::Key_F2);
+  EXPECT_TRUE(f.Joue.Visible);
+}
+
+// The keys are named as on a French keyboard and as the README names them.
+TEST(Clavier, LesBullesNommentLesTouchesEnFrançais) {
+  Table table;
+  auto &f = table.t.Fenêtre;
+  EXPECT_EQ(table.Vue(f.Arrêt)->toolTip(), "STOP — touche Échap");
+  EXPECT_EQ(table.Vue(f.Joue)->toolTip(), "GO — touche Entrée");
+  EXPECT_EQ(table.Vue(f.Fin)->toolTip(), "QUITTER — touche Ctrl+Q");
+  EXPECT_TRUE(table.Vue(f.TempsShape)->toolTip().contains("Entrée"));
+  table.fenêtre.PourChaqueVue([](const Contrôle &c, QWidget *vue) {
+    EXPECT_FALSE(vue->toolTip().contains("Esc")) << c.Nom;
+    EXPECT_FALSE(vue->toolTip().contains("Echap")) << c.Nom;
+    EXPECT_FALSE(vue->toolTip().contains("Return")) << c.Nom;
+  });
+}
+
+// F11 puts the table full screen and back; Échap keeps its one meaning.
+TEST(Clavier, F11BasculeLePleinÉcranEtÉchapResteSTOP) {
+  Table table;
+  auto &f = table.t.Fenêtre;
+  table.Touche(Qt::Key_F11);
+  EXPECT_TRUE(table.fenêtre.windowState() & Qt::WindowFullScreen);
+  table.Touche(Qt::Key_Escape);
+  EXPECT_TRUE(table.fenêtre.windowState() & Qt::WindowFullScreen);
+  EXPECT_FALSE(f.Arrêt.Enabled) << "STOP at Start only disables itself";
+  table.Touche(Qt::Key_F11);
+  EXPECT_FALSE(table.fenêtre.windowState() & Qt::WindowFullScreen);
+}

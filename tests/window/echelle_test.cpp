@@ -1,0 +1,142 @@
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <QLabel>
+#include <QTest>
+#include <cmath>
+
+#include "platform/qt/images.h"
+#include "table_essai.h"
+
+namespace {
+
+// Where the middle of a control stands in the window at scale `s`, worked
+// out from the design alone: the table is centred, every twip is s / 15 px.
+QPoint Milieu(const Table &table, const Contrôle &c, double s) {
+  double x = c.Width / 2.0, y = c.Height / 2.0;
+  for (const Contrôle *p = &c; p; p = p->Parent) {
+    x += p->Left;
+    y += p->Top;
+  }
+  const QPoint coin = table.fenêtre.Fond()->pos();
+  return coin + QPoint(static_cast<int>(x * s / 15), static_cast<int>(y * s / 15));
+}
+
+void Redimensionne(Table &table, QSize taille) {
+  table.fenêtre.resize(taille);
+  QTest::qWait(20);
+  ASSERT_EQ(table.fenêtre.size(), taille);
+}
+
+} // namespace
+
+TEST(Échelle, LaTableGrandiEnEntierAuMilieuDuNoir) {
+  Table table;
+  auto &f = table.t.Fenêtre;
+  Redimensionne(table, {2048, 1536});
+  EXPECT_EQ(table.fenêtre.Échelle(), 2.0);
+  EXPECT_EQ(table.fenêtre.Fond()->geometry(), QRect(0, 0, 2048, 1536));
+  EXPECT_EQ(table.Vue(f.SSJoueur[0])->geometry(), QRect(8, 322, 526, 554));
+  EXPECT_EQ(table.Vue(f.NouveauJeu)->geometry(), QRect(16, 16, 240, 206));
+  EXPECT_EQ(table.Vue(f.CartesJeu[44])->geometry(), QRect(0, 152, 180, 270));
+  // Fonts grow with the rest: a label that fits its text is twice as wide.
+  const int large = table.Vue(f.JoueursLabel[3])->width();
+
+  // A wide screen: the table takes the full height and black bands the sides.
+  Redimensionne(table, {1920, 1080});
+  const double s = 1080.0 / 768;
+  EXPECT_DOUBLE_EQ(table.fenêtre.Échelle(), s);
+  EXPECT_EQ(table.fenêtre.Fond()->geometry(), QRect(240, 0, 1440, 1080));
+  EXPECT_EQ(table.Vue(f.MenuSS)->geometry(),
+            QRect(std::lround(8010 * s / 15), std::lround(6600 * s / 15),
+                  std::lround(3945 * s / 15), std::lround(2355 * s / 15)));
+  const QImage écran = table.fenêtre.grab().toImage();
+  EXPECT_EQ(écran.pixelColor(QPoint(100, 540) * écran.devicePixelRatio()), QColor(Qt::black));
+  EXPECT_EQ(écran.pixelColor(QPoint(1820, 540) * écran.devicePixelRatio()), QColor(Qt::black));
+
+  Redimensionne(table, {1024, 768});
+  EXPECT_EQ(table.Vue(f.SSJoueur[0])->geometry(), QRect(4, 161, 263, 277));
+  EXPECT_EQ(table.Vue(f.CartesJeu[44])->geometry(), QRect(0, 76, 90, 135));
+  EXPECT_NEAR(large, 2 * table.Vue(f.JoueursLabel[3])->width(), 4);
+}
+
+// The clicks go through the window system to whatever lies under them, at
+// places worked out from the design: JOUER deals, then two cards swap.
+TEST(Échelle, UnClicTombeLàOùLeContrôleSeVoit) {
+  Table table;
+  auto &f = table.t.Fenêtre;
+  for (const QSize taille : {QSize(1600, 1000), QSize(800, 600)}) {
+    Redimensionne(table, taille);
+    const double s = table.fenêtre.Échelle();
+    QWindow *fenêtre = table.fenêtre.windowHandle();
+    QTest::mouseClick(fenêtre, Qt::LeftButton, {}, Milieu(table, f.NouveauJeu, s));
+    ASSERT_TRUE(f.Joue.Visible) << "JOUER was pressed at " << taille.width();
+    const uint8_t a = table.t.Mains[4][2], b = table.t.Mains[4][11];
+    // Each card shows its left strip beside the next place, and a card of
+    // level 3 its upper part above the row in front.
+    const QPoint gauche(static_cast<int>(30 * s), 0);
+    const QPoint haut3 = Milieu(table, f.CartesJeu[39 + 11], s) - gauche - QPoint(0, 40 * s);
+    QTest::mouseClick(fenêtre, Qt::LeftButton, {}, Milieu(table, f.CartesJeu[39 + 2], s) - gauche);
+    EXPECT_EQ(table.t.EmplacementLevé, 39 + 2);
+    QTest::mouseClick(fenêtre, Qt::LeftButton, {}, haut3);
+    EXPECT_EQ(table.t.Mains[4][2], b);
+    EXPECT_EQ(table.t.Mains[4][11], a);
+    QTest::mouseClick(fenêtre, Qt::LeftButton, {}, Milieu(table, f.Joue, s));
+    EXPECT_FALSE(f.Joue.Visible) << "GO was pressed at " << taille.width();
+  }
+}
+
+// At twice the size a card is the picture drawn at twice the size, not the
+// small one stretched.
+TEST(Échelle, LesCartesSontDessinéesÀLaTailleFinale) {
+  Table table;
+  auto &f = table.t.Fenêtre;
+  Redimensionne(table, {2048, 1536});
+  table.Clic(f.NouveauJeu);
+  QWidget *vue = table.Vue(f.CartesJeu[39]);
+  ASSERT_EQ(vue->size(), QSize(180, 270));
+  const QRect dedans(16, 16, 148, 238);
+  const QImage montré = vue->grab().toImage().convertToFormat(QImage::Format_RGB32);
+  const qreal ratio = montré.devicePixelRatio();
+  const QImage attendu =
+      ImageBrute(table.t.Mains[4][0], QSize(180, 270), ratio).convertToFormat(QImage::Format_RGB32);
+  const QRect zone(dedans.topLeft() * ratio, dedans.size() * ratio);
+  EXPECT_TRUE(montré.copy(zone) == attendu.copy(zone));
+}
+
+// A widget that another part of the game lays in a panel at the designed
+// size (the advert pages) follows the scale, its text too.
+TEST(Échelle, UnePageDansSonPanneauSuitLÉchelle) {
+  Table table;
+  auto *page = new QLabel("Trois Niveaux", table.Vue(table.t.Fenêtre.Pub0Pic));
+  QFont police = page->font();
+  police.setPixelSize(14);
+  page->setFont(police);
+  page->setGeometry(10, 20, 100, 30);
+  page->show();
+  Redimensionne(table, {2048, 1536});
+  EXPECT_EQ(page->geometry(), QRect(20, 40, 200, 60));
+  EXPECT_EQ(page->font().pixelSize(), 28);
+  Redimensionne(table, {1024, 768});
+  EXPECT_EQ(page->geometry(), QRect(10, 20, 100, 30));
+  EXPECT_EQ(page->font().pixelSize(), 14);
+}
+
+// The stars fall on the grown table at grown places, and grown themselves.
+TEST(Échelle, LesÉtoilesSontÀLÉchelle) {
+  Table table;
+  Redimensionne(table, {2048, 1536});
+  QWidget *fond = table.fenêtre.Fond();
+  const QImage image = fond->grab().toImage();
+  const qreal ratio = image.devicePixelRatio();
+  int vues = 0;
+  for (int i = 1; i <= 50; ++i) {
+    const QPoint centre(static_cast<int>(table.t.EtoileX[i] * 2 / 15),
+                        static_cast<int>(table.t.EtoileY[i] * 2 / 15));
+    if (table.t.EtoileRayon[i] < 8 || fond->childAt(centre))
+      continue; // too small to hit one pixel for sure, or under a panel
+    ++vues;
+    EXPECT_GT(image.pixelColor(centre * ratio).lightness(), 128) << "star " << i;
+  }
+  EXPECT_GT(vues, 0);
+}

@@ -1,0 +1,43 @@
+#pragma once
+// The game in its real window, over a folder of its own, the sweep flat out
+// unless a test paces it.
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+#include <QWidget>
+#include <QWindow>
+
+#include "core/table_state.h"
+#include "dossier_essai.h"
+#include "platform/qt/fenetre_table.h"
+#include "platform/qt/plateforme_qt.h"
+
+struct Table {
+  DossierEssai dossier;
+  struct Plateforme : PlateformeQt {
+    std::string dossier;
+    std::string DossierDesDonnées() override { return dossier; }
+  } plateforme;
+  TroisNiveaux t{plateforme};
+  FenêtreTable fenêtre{t, plateforme};
+
+  Table() {
+    plateforme.dossier = dossier.Chemin();
+    plateforme.dialogues = false;
+    plateforme.duréeParSiège = 0;
+    t.Form_Load();
+    fenêtre.Synchronise();
+    fenêtre.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&fenêtre));
+  }
+  QWidget *Vue(const Contrôle &c) { return fenêtre.Vue(c); }
+  void Clic(const Contrôle &c) { QTest::mouseClick(Vue(c), Qt::LeftButton); }
+  QColor Pixel(const Contrôle &c, QPoint où) {
+    return Vue(c)->grab().toImage().pixelColor(où * Vue(c)->devicePixelRatioF());
+  }
+  // A key as the window gets it, whatever holds the keyboard.
+  void Touche(Qt::Key touche, Qt::KeyboardModifiers modifs = Qt::NoModifier) {
+    QTest::keyClick(&fenêtre, touche, modifs);
+  }
+};
