@@ -3,13 +3,17 @@
 #include <cstdio>
 #include <iomanip>
 
+#include <QStandardPaths>
+#include <filesystem>
+
 #include "files/historique.h"
 
 const char *const AideHistorique =
     "Usage : troisniveaux-analyse historique [--json] [FICHIER]\n"
     "\n"
     "Résume l'historique des scores (par défaut le fichier « Historique » du dossier\n"
-    "courant) : pour chaque joueur le nombre de donnes, la moyenne de points par\n"
+    "courant s'il y en a un, sinon celui du dossier de données du joueur,\n"
+    "~/.local/share/troisniveaux) : pour chaque joueur le nombre de donnes, la moyenne de points par\n"
     "donne, la meilleure et la pire donne, et le score où l'historique s'arrête.\n"
     "Les noms sont ceux du fichier « Noms » posé à côté, s'il y en a un.\n"
     "\n"
@@ -73,6 +77,11 @@ int CommandeHistorique(const std::vector<std::string> &arguments, std::ostream &
       return 2;
     }
   }
+  // Without a file named: the game's own, portable beside us or installed.
+  if (!fichierDonné && !std::filesystem::exists(fichier))
+    fichier = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
+                  .toStdString() +
+              "/troisniveaux/" + historique::NomDuFichier;
   const historique::Lecture lecture = historique::Lit(fichier);
   if (!lecture.trouvé) {
     erreurs << "Le fichier « " << fichier << " » est introuvable ou illisible.\n";

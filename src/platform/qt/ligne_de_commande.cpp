@@ -18,8 +18,8 @@ const char Aide[] =
     "  -h, --help     affiche cette aide et s'arrête\n"
     "  -V, --version  affiche la version et s'arrête\n"
     "\n"
-    "Fichiers (Noms, Scores, Temps1, Temps2, Tirage) : à côté du programme quand un fichier\n"
-    "Noms s'y trouve, sinon dans le dossier de données de l'utilisateur\n"
+    "Fichiers (Noms, Scores, Temps1, Temps2, Tirage, Historique) : à côté du programme quand\n"
+    "un fichier Noms s'y trouve, sinon dans le dossier de données de l'utilisateur\n"
     "(~/.local/share/troisniveaux, ou $XDG_DATA_HOME/troisniveaux), créé au premier\n"
     "lancement avec les noms et scores par défaut.\n";
 
