@@ -13,8 +13,9 @@ const char *const AideHistorique =
     "\n"
     "Résume l'historique des scores (par défaut le fichier « Historique » du dossier\n"
     "courant s'il y en a un, sinon celui du dossier de données du joueur,\n"
-    "~/.local/share/troisniveaux) : pour chaque joueur le nombre de donnes, la moyenne de points par\n"
-    "donne, la meilleure et la pire donne, et le score où l'historique s'arrête.\n"
+    "~/.local/share/troisniveaux) : pour chaque joueur le nombre de donnes, la\n"
+    "moyenne de points par donne, la meilleure et la pire donne, et le score où\n"
+    "l'historique s'arrête.\n"
     "Les noms sont ceux du fichier « Noms » posé à côté, s'il y en a un.\n"
     "\n"
     "  --json   une seule ligne JSON : donnes, remises, lignesIgnorées, sièges\n"
@@ -79,8 +80,7 @@ int CommandeHistorique(const std::vector<std::string> &arguments, std::ostream &
   }
   // Without a file named: the game's own, portable beside us or installed.
   if (!fichierDonné && !std::filesystem::exists(fichier))
-    fichier = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
-                  .toStdString() +
+    fichier = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation).toStdString() +
               "/troisniveaux/" + historique::NomDuFichier;
   const historique::Lecture lecture = historique::Lit(fichier);
   if (!lecture.trouvé) {
