@@ -140,3 +140,18 @@ TEST(Échelle, LesÉtoilesSontÀLÉchelle) {
   }
   EXPECT_GT(vues, 0);
 }
+
+TEST(Échelle, LaFenêtreRouvreÀLaTailleOùLeJoueurLAQuittée) {
+  {
+    Table table;
+    table.fenêtre.RetrouveTaille();
+    table.fenêtre.setMinimumSize(0, 0);
+    Redimensionne(table, QSize(1280, 960));
+  } // the window goes as at the end of a session, and keeps its size
+  Table table;
+  EXPECT_EQ(table.fenêtre.size(), QSize(1024, 768)) << "the design until the player's size is read";
+  table.fenêtre.RetrouveTaille();
+  QTest::qWait(20);
+  EXPECT_EQ(table.fenêtre.size(), QSize(1280, 960));
+  EXPECT_NEAR(table.fenêtre.Échelle(), 1.25, 1e-9);
+}
