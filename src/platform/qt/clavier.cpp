@@ -267,13 +267,14 @@ void Clavier::DéplaceCadre(int dx, int dy) {
 }
 
 // The part of the place's card that shows: the next place of its row lies
-// over its right side and the row in front over its lower side.
+// over its right side, the row in front over its lower side, and the front
+// row runs past the foot of the seat's panel.
 QRect Clavier::PartieVisible() const {
   const auto géométrie = [this](int k) {
     return fenêtre.Vue(t.Fenêtre.CartesJeu[39 + k])->geometry();
   };
   const QRect carte = géométrie(place);
-  QRect visible = carte;
+  QRect visible = carte & cadre->parentWidget()->rect();
   for (int k = 0; k <= 12; ++k) {
     const QRect devant = géométrie(k);
     if (k == place || !devant.intersects(visible))
