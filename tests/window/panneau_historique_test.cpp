@@ -102,7 +102,20 @@ TEST(PanneauHistorique, SesTouchesEtRienDeLaTableDerrièreLui) {
   EXPECT_TRUE(f.CartesJeu[39].Picture == f.CartesJeu[0].Picture) << "no deal was made";
   EXPECT_FALSE(table.dossier.Existe("Tirage"));
   EXPECT_TRUE(panneau->isVisible());
+  // Nor can Tab reach a button behind it, or Espace press the one that had
+  // the keyboard as it opened.
+  table.Touche(Qt::Key_Tab);
+  QTest::keyClick(table.fenêtre.focusWidget(), Qt::Key_Space);
+  EXPECT_TRUE(f.NouveauJeu.Enabled);
   table.Touche(Qt::Key_Escape);
+  EXPECT_FALSE(panneau->isVisible());
+  table.Touche(Qt::Key_Tab);
+  ASSERT_EQ(table.fenêtre.focusWidget(), table.Vue(f.NouveauJeu));
+  QTest::keyClick(table.fenêtre.focusWidget(), Qt::Key_F9);
+  ASSERT_TRUE(panneau->isVisible());
+  QTest::keyClick(table.fenêtre.focusWidget(), Qt::Key_Space);
+  EXPECT_FALSE(table.dossier.Existe("Tirage")) << "JOUER was not pressed";
+  QTest::keyClick(table.fenêtre.focusWidget(), Qt::Key_Escape);
   EXPECT_FALSE(panneau->isVisible());
   table.Touche(Qt::Key_F9);
   EXPECT_TRUE(panneau->isVisible());

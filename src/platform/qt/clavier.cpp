@@ -368,9 +368,19 @@ void Clavier::OrdreDeTabulation() {
   }
 }
 
-// A click anywhere on the table, or Tab to a button, hides the frame: the
-// mouse or the buttons have the hand again.
 bool Clavier::eventFilter(QObject *objet, QEvent *e) {
+  // While a panel stands over the table, a key meant for the table (Tab to a
+  // button behind it, Espace on the button that had the keyboard) goes to
+  // the panel's own keys instead.
+  if (e->type() == QEvent::KeyPress && objet->isWidgetType() &&
+      static_cast<QWidget *>(objet)->window() == &fenêtre)
+    for (const Panneau &panneau : panneaux)
+      if (panneau.vue->isVisible() && !panneau.vue->isAncestorOf(static_cast<QWidget *>(objet))) {
+        Touche(static_cast<QKeyEvent *>(e));
+        return true;
+      }
+  // A click anywhere on the table, or Tab to a button, hides the frame: the
+  // mouse or the buttons have the hand again.
   const bool clic = e->type() == QEvent::MouseButtonPress;
   const bool tab =
       e->type() == QEvent::KeyPress && (static_cast<QKeyEvent *>(e)->key() == Qt::Key_Tab ||
