@@ -7,15 +7,11 @@
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTemporaryDir>
-#include <QTest>
 
-#include "core/table_state.h"
-#include "dossier_essai.h"
 #include "platform/qt/choix_du_jeu.h"
-#include "platform/qt/fenetre_table.h"
 #include "platform/qt/images.h"
 #include "platform/qt/jeux_de_cartes.h"
-#include "platform/qt/plateforme_qt.h"
+#include "table_essai.h"
 
 namespace {
 
@@ -105,29 +101,7 @@ struct JeuxDEssai {
   }
 };
 
-struct Table {
-  DossierEssai dossier;
-  struct Plateforme : PlateformeQt {
-    std::string dossier;
-    std::string DossierDesDonnées() override { return dossier; }
-  } plateforme;
-  TroisNiveaux t{plateforme};
-  FenêtreTable fenêtre{t, plateforme};
-
-  Table() {
-    plateforme.dossier = dossier.Chemin();
-    plateforme.dialogues = false;
-    plateforme.duréeParSiège = 0;
-    t.Form_Load();
-    fenêtre.Synchronise();
-    fenêtre.show();
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(&fenêtre));
-  }
-  QColor MilieuDe(const Contrôle &c) {
-    QWidget *vue = fenêtre.Vue(c);
-    return vue->grab().toImage().pixelColor(QPoint(45, 67) * vue->devicePixelRatioF());
-  }
-};
+QColor MilieuDe(Table &table, const Contrôle &c) { return table.Pixel(c, QPoint(45, 67)); }
 
 bool Proches(const QColor &a, const QColor &b) {
   return std::abs(a.red() - b.red()) <= 2 && std::abs(a.green() - b.green()) <= 2 &&
@@ -247,8 +221,8 @@ TEST(JeuxDeCartes, F8MetLeJeuSurLaTableEtLeChoixResteDUneSessionÀLAutre) {
     }
     EXPECT_EQ(ÉtiquetteDuJeu(&table.fenêtre)->text(), "Bon jeu");
     EXPECT_EQ(jeux::Choisi(), bon);
-    EXPECT_TRUE(Proches(table.MilieuDe(f.CartesJeu[39]), Teinte(30)));
-    EXPECT_TRUE(Proches(table.MilieuDe(f.CartesJeu[0]), Teinte(54)));
+    EXPECT_TRUE(Proches(MilieuDe(table, f.CartesJeu[39]), Teinte(30)));
+    EXPECT_TRUE(Proches(MilieuDe(table, f.CartesJeu[0]), Teinte(54)));
   }
   EXPECT_EQ(QSettings().value("cartes/jeu").toString(), "svg-bon");
   jeux::Choisit(0);
@@ -257,7 +231,7 @@ TEST(JeuxDeCartes, F8MetLeJeuSurLaTableEtLeChoixResteDUneSessionÀLAutre) {
   Table table;
   jeux::AttendsLeRendu();
   EXPECT_EQ(jeux::Choisi(), bon);
-  EXPECT_TRUE(Proches(table.MilieuDe(table.t.Fenêtre.CartesJeu[0]), Teinte(54)));
+  EXPECT_TRUE(Proches(MilieuDe(table, table.t.Fenêtre.CartesJeu[0]), Teinte(54)));
   // F8 past the last deck comes back to the game's own, which is remembered too.
   for (int n = bon; n <= static_cast<int>(jeux::Installés().size()); ++n) {
     JeuSuivant(&table.fenêtre);
@@ -267,5 +241,6 @@ TEST(JeuxDeCartes, F8MetLeJeuSurLaTableEtLeChoixResteDUneSessionÀLAutre) {
   EXPECT_EQ(ÉtiquetteDuJeu(&table.fenêtre)->text(), "Jeu de TroisNiveaux");
   EXPECT_EQ(jeux::Retrouve(), 0);
   const QImage propre = ImageBrute(PasDeCarte, QSize(90, 135), 1);
-  EXPECT_EQ(table.MilieuDe(table.t.Fenêtre.CartesJeu[0]), propre.pixelColor(45, 67));
+  EXPECT_EQ(MilieuDe(table, table.t.Fenêtre.CartesJeu[0]), propre.pixelColor(45, 67));
 }
+
