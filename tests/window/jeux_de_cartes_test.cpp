@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QLabel>
+#include <QScreen>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -11,6 +12,7 @@
 #include "platform/qt/choix_du_jeu.h"
 #include "platform/qt/images.h"
 #include "platform/qt/jeux_de_cartes.h"
+#include "platform/qt/vue_controle.h"
 #include "table_essai.h"
 
 namespace {
@@ -244,3 +246,34 @@ TEST(JeuxDeCartes, F8MetLeJeuSurLaTableEtLeChoixResteDUneSessionÀLAutre) {
   EXPECT_EQ(MilieuDe(table, table.t.Fenêtre.CartesJeu[0]), propre.pixelColor(45, 67));
 }
 
+// A deck narrower than the slot shows the seat's colour beside its cards,
+// never what was on screen there before (the history panel, just closed).
+TEST(JeuxDeCartes, UnJeuPlusÉtroitQueLaPlaceLaisseVoirLaCouleurDuSiège) {
+  JeuxDEssai essai;
+  QByteArray svg = "<svg xmlns='http://www.w3.org/2000/svg' width='8000' height='150'>";
+  for (int code = 0; code <= 54; ++code)
+    svg += QString("<rect id='%1' x='%2' y='0' width='60' height='150' fill='%3'/>")
+               .arg(ÉlémentDeCarte(code))
+               .arg(code * 110)
+               .arg(Teinte(code).name())
+               .toUtf8();
+  ÉcritJeu(QDir(essai.racine.path()), "svg-etroit", "Étroit", {}, svg + "</svg>");
+  jeux::DéfinitRacines({essai.racine.path()});
+  Table table;
+  auto &f = table.t.Fenêtre;
+  jeux::Choisit(essai.Numéro("svg-etroit"));
+  jeux::AttendsLeRendu();
+  table.Touche(Qt::Key_F9);
+  QTest::qWait(50);
+  table.Touche(Qt::Key_F9);
+  QTest::qWait(50);
+  const QImage écran = table.fenêtre.screen()->grabWindow(table.fenêtre.winId()).toImage();
+  const QColor siège =
+      Couleur(f.SSJoueurFond[0].BackColor, table.Vue(f.SSJoueurFond[0])->palette());
+  // The top row's first card: its left margin, and its middle.
+  QWidget *carte = table.Vue(f.CartesJeu[10]);
+  const qreal ratio = écran.devicePixelRatio();
+  EXPECT_EQ(écran.pixelColor(carte->mapTo(&table.fenêtre, QPoint(4, 20)) * ratio), siège);
+  EXPECT_TRUE(
+      Proches(écran.pixelColor(carte->mapTo(&table.fenêtre, QPoint(45, 20)) * ratio), Teinte(54)));
+}
