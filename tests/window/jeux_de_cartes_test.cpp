@@ -198,6 +198,16 @@ TEST(JeuxDeCartes, UnJeuIllisibleOuIncompletLaisseLeJeuDuProgramme) {
   jeux::AttendsLeRendu();
   EXPECT_EQ(jeux::Image(7, QSize(135, 203), 2).size(), QSize(270, 406));
   jeux::AttendsLeRendu();
+  // A window dragged through many sizes: those it passed by while the
+  // thread was busy are not rendered, only the one it stops at.
+  int rendus = 0;
+  jeux::QuandNouvellesImages([&rendus] { ++rendus; });
+  for (int n = 1; n <= 40; ++n)
+    jeux::Image(7, QSize(90 + 2 * n, 135 + 3 * n), 1);
+  jeux::AttendsLeRendu();
+  EXPECT_LE(rendus, 2);
+  EXPECT_TRUE(Proches(jeux::Image(7, QSize(170, 255), 1).toImage().pixelColor(85, 127), Teinte(7)));
+  jeux::QuandNouvellesImages({});
   // The deck's file gone, the next size fails and the game's own deck returns.
   ASSERT_TRUE(QFile::remove(jeux::Installés()[essai.Numéro("svg-bon") - 1].fichier));
   jeux::Image(7, QSize(60, 90), 1);
