@@ -1,5 +1,6 @@
 #include "platform/qt/jeux_de_cartes.h"
 
+#include "platform/qt/images.h"
 #include "platform/qt/reglages.h"
 
 #include <QCoreApplication>
@@ -121,15 +122,7 @@ std::optional<std::vector<QImage>> RendJeu(const QString &fichier, QSize taille,
       cible.setSize(bords.size() * échelle);
       cible.moveLeft((taille.width() - cible.width()) / 2);
     }
-    QImage image(taille * ratio, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    image.setDevicePixelRatio(ratio);
-    QPainter p(&image);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.setRenderHint(QPainter::SmoothPixmapTransform);
-    rendu.render(&p, élément, cible);
-    p.end();
-    images[code] = std::move(image);
+    images[code] = Peint(taille, ratio, [&](QPainter &p) { rendu.render(&p, élément, cible); });
   }
   return images;
 }
