@@ -2,6 +2,7 @@
 // and closes, and it follows the window's size.
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QPushButton>
 #include <QTest>
 
@@ -55,6 +56,13 @@ TEST(PanneauHistorique, SesChiffresSontCeuxDuFichier) {
     EXPECT_EQ(rangée[5].toInt(), table.t.Scores[s]) << "the history ends on the table's score";
   }
   EXPECT_EQ(tableau[1][3], QString::number(std::max(18, lecture.entrées[4].totaux[0])));
+  // A screen reader reads the same figures in words.
+  QAccessibleInterface *lu = QAccessible::queryAccessibleInterface(panneau);
+  EXPECT_EQ(lu->text(QAccessible::Name), "Historique des scores");
+  EXPECT_TRUE(lu->text(QAccessible::Description)
+                  .contains(tableau[4][0].trimmed() + " : donnes " + tableau[4][1] + ", moyenne " +
+                            tableau[4][2]))
+      << lu->text(QAccessible::Description).toStdString();
 
   // It draws without fault and stays open until F9 or its button.
   EXPECT_FALSE(panneau->grab().isNull());
