@@ -25,13 +25,14 @@ TEST(Clavier, UnÉchangeAuClavierVautUnÉchangeÀLaSouris) {
   table.Touche(Qt::Key_Right);
   EXPECT_EQ(clavier.PlaceDuCadre(), 2);
   // The frame goes round the strip of the card that shows, not under the
-  // next card where it would seem to mark that one.
+  // next card where it would seem to mark that one, and its foot stays in
+  // the panel that cuts the front row.
   QWidget *cadre = nullptr;
   for (QWidget *w : table.Vue(f.SSJoueurFond[3])->findChildren<QWidget *>())
     if (w->property("tnHorsEchelle").toBool())
       cadre = w;
   ASSERT_NE(cadre, nullptr);
-  EXPECT_EQ(cadre->geometry(), QRect(48, 152, 24, 135));
+  EXPECT_EQ(cadre->geometry(), QRect(48, 152, 24, 76));
   table.Touche(Qt::Key_Up);
   EXPECT_EQ(clavier.PlaceDuCadre(), 7) << "level 2, same column";
   table.Touche(Qt::Key_Up);

@@ -4,18 +4,16 @@
 
 #include <QDir>
 #include <QLabel>
+#include <QScreen>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTemporaryDir>
-#include <QTest>
 
-#include "core/table_state.h"
-#include "dossier_essai.h"
 #include "platform/qt/choix_du_jeu.h"
-#include "platform/qt/fenetre_table.h"
 #include "platform/qt/images.h"
 #include "platform/qt/jeux_de_cartes.h"
-#include "platform/qt/plateforme_qt.h"
+#include "platform/qt/vue_controle.h"
+#include "table_essai.h"
 
 namespace {
 
@@ -105,29 +103,7 @@ struct JeuxDEssai {
   }
 };
 
-struct Table {
-  DossierEssai dossier;
-  struct Plateforme : PlateformeQt {
-    std::string dossier;
-    std::string DossierDesDonnées() override { return dossier; }
-  } plateforme;
-  TroisNiveaux t{plateforme};
-  FenêtreTable fenêtre{t, plateforme};
-
-  Table() {
-    plateforme.dossier = dossier.Chemin();
-    plateforme.dialogues = false;
-    plateforme.duréeParSiège = 0;
-    t.Form_Load();
-    fenêtre.Synchronise();
-    fenêtre.show();
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(&fenêtre));
-  }
-  QColor MilieuDe(const Contrôle &c) {
-    QWidget *vue = fenêtre.Vue(c);
-    return vue->grab().toImage().pixelColor(QPoint(45, 67) * vue->devicePixelRatioF());
-  }
-};
+QColor MilieuDe(Table &table, const Contrôle &c) { return table.Pixel(c, QPoint(45, 67)); }
 
 bool Proches(const QColor &a, const QColor &b) {
   return std::abs(a.red() - b.red()) <= 2 && std::abs(a.green() - b.green()) <= 2 &&
@@ -222,6 +198,16 @@ TEST(JeuxDeCartes, UnJeuIllisibleOuIncompletLaisseLeJeuDuProgramme) {
   jeux::AttendsLeRendu();
   EXPECT_EQ(jeux::Image(7, QSize(135, 203), 2).size(), QSize(270, 406));
   jeux::AttendsLeRendu();
+  // A window dragged through many sizes: those it passed by while the
+  // thread was busy are not rendered, only the one it stops at.
+  int rendus = 0;
+  jeux::QuandNouvellesImages([&rendus] { ++rendus; });
+  for (int n = 1; n <= 40; ++n)
+    jeux::Image(7, QSize(90 + 2 * n, 135 + 3 * n), 1);
+  jeux::AttendsLeRendu();
+  EXPECT_LE(rendus, 2);
+  EXPECT_TRUE(Proches(jeux::Image(7, QSize(170, 255), 1).toImage().pixelColor(85, 127), Teinte(7)));
+  jeux::QuandNouvellesImages({});
   // The deck's file gone, the next size fails and the game's own deck returns.
   ASSERT_TRUE(QFile::remove(jeux::Installés()[essai.Numéro("svg-bon") - 1].fichier));
   jeux::Image(7, QSize(60, 90), 1);
@@ -247,8 +233,8 @@ TEST(JeuxDeCartes, F8MetLeJeuSurLaTableEtLeChoixResteDUneSessionÀLAutre) {
     }
     EXPECT_EQ(ÉtiquetteDuJeu(&table.fenêtre)->text(), "Bon jeu");
     EXPECT_EQ(jeux::Choisi(), bon);
-    EXPECT_TRUE(Proches(table.MilieuDe(f.CartesJeu[39]), Teinte(30)));
-    EXPECT_TRUE(Proches(table.MilieuDe(f.CartesJeu[0]), Teinte(54)));
+    EXPECT_TRUE(Proches(MilieuDe(table, f.CartesJeu[39]), Teinte(30)));
+    EXPECT_TRUE(Proches(MilieuDe(table, f.CartesJeu[0]), Teinte(54)));
   }
   EXPECT_EQ(QSettings().value("cartes/jeu").toString(), "svg-bon");
   jeux::Choisit(0);
@@ -257,7 +243,7 @@ TEST(JeuxDeCartes, F8MetLeJeuSurLaTableEtLeChoixResteDUneSessionÀLAutre) {
   Table table;
   jeux::AttendsLeRendu();
   EXPECT_EQ(jeux::Choisi(), bon);
-  EXPECT_TRUE(Proches(table.MilieuDe(table.t.Fenêtre.CartesJeu[0]), Teinte(54)));
+  EXPECT_TRUE(Proches(MilieuDe(table, table.t.Fenêtre.CartesJeu[0]), Teinte(54)));
   // F8 past the last deck comes back to the game's own, which is remembered too.
   for (int n = bon; n <= static_cast<int>(jeux::Installés().size()); ++n) {
     JeuSuivant(&table.fenêtre);
@@ -267,5 +253,37 @@ TEST(JeuxDeCartes, F8MetLeJeuSurLaTableEtLeChoixResteDUneSessionÀLAutre) {
   EXPECT_EQ(ÉtiquetteDuJeu(&table.fenêtre)->text(), "Jeu de TroisNiveaux");
   EXPECT_EQ(jeux::Retrouve(), 0);
   const QImage propre = ImageBrute(PasDeCarte, QSize(90, 135), 1);
-  EXPECT_EQ(table.MilieuDe(table.t.Fenêtre.CartesJeu[0]), propre.pixelColor(45, 67));
+  EXPECT_EQ(MilieuDe(table, table.t.Fenêtre.CartesJeu[0]), propre.pixelColor(45, 67));
+}
+
+// A deck narrower than the slot shows the seat's colour beside its cards,
+// never what was on screen there before (the history panel, just closed).
+TEST(JeuxDeCartes, UnJeuPlusÉtroitQueLaPlaceLaisseVoirLaCouleurDuSiège) {
+  JeuxDEssai essai;
+  QByteArray svg = "<svg xmlns='http://www.w3.org/2000/svg' width='8000' height='150'>";
+  for (int code = 0; code <= 54; ++code)
+    svg += QString("<rect id='%1' x='%2' y='0' width='60' height='150' fill='%3'/>")
+               .arg(ÉlémentDeCarte(code))
+               .arg(code * 110)
+               .arg(Teinte(code).name())
+               .toUtf8();
+  ÉcritJeu(QDir(essai.racine.path()), "svg-etroit", "Étroit", {}, svg + "</svg>");
+  jeux::DéfinitRacines({essai.racine.path()});
+  Table table;
+  auto &f = table.t.Fenêtre;
+  jeux::Choisit(essai.Numéro("svg-etroit"));
+  jeux::AttendsLeRendu();
+  table.Touche(Qt::Key_F9);
+  QTest::qWait(50);
+  table.Touche(Qt::Key_F9);
+  QTest::qWait(50);
+  const QImage écran = table.fenêtre.screen()->grabWindow(table.fenêtre.winId()).toImage();
+  const QColor siège =
+      Couleur(f.SSJoueurFond[0].BackColor, table.Vue(f.SSJoueurFond[0])->palette());
+  // The top row's first card: its left margin, and its middle.
+  QWidget *carte = table.Vue(f.CartesJeu[10]);
+  const qreal ratio = écran.devicePixelRatio();
+  EXPECT_EQ(écran.pixelColor(carte->mapTo(&table.fenêtre, QPoint(4, 20)) * ratio), siège);
+  EXPECT_TRUE(
+      Proches(écran.pixelColor(carte->mapTo(&table.fenêtre, QPoint(45, 20)) * ratio), Teinte(54)));
 }

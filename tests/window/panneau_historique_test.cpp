@@ -2,6 +2,7 @@
 // and closes, and it follows the window's size.
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QPushButton>
 #include <QTest>
 
@@ -55,6 +56,13 @@ TEST(PanneauHistorique, SesChiffresSontCeuxDuFichier) {
     EXPECT_EQ(rangée[5].toInt(), table.t.Scores[s]) << "the history ends on the table's score";
   }
   EXPECT_EQ(tableau[1][3], QString::number(std::max(18, lecture.entrées[4].totaux[0])));
+  // A screen reader reads the same figures in words.
+  QAccessibleInterface *lu = QAccessible::queryAccessibleInterface(panneau);
+  EXPECT_EQ(lu->text(QAccessible::Name), "Historique des scores");
+  EXPECT_TRUE(lu->text(QAccessible::Description)
+                  .contains(tableau[4][0].trimmed() + " : donnes " + tableau[4][1] + ", moyenne " +
+                            tableau[4][2]))
+      << lu->text(QAccessible::Description).toStdString();
 
   // It draws without fault and stays open until F9 or its button.
   EXPECT_FALSE(panneau->grab().isNull());
@@ -102,7 +110,20 @@ TEST(PanneauHistorique, SesTouchesEtRienDeLaTableDerrièreLui) {
   EXPECT_TRUE(f.CartesJeu[39].Picture == f.CartesJeu[0].Picture) << "no deal was made";
   EXPECT_FALSE(table.dossier.Existe("Tirage"));
   EXPECT_TRUE(panneau->isVisible());
+  // Nor can Tab reach a button behind it, or Espace press the one that had
+  // the keyboard as it opened.
+  table.Touche(Qt::Key_Tab);
+  QTest::keyClick(table.fenêtre.focusWidget(), Qt::Key_Space);
+  EXPECT_TRUE(f.NouveauJeu.Enabled);
   table.Touche(Qt::Key_Escape);
+  EXPECT_FALSE(panneau->isVisible());
+  table.Touche(Qt::Key_Tab);
+  ASSERT_EQ(table.fenêtre.focusWidget(), table.Vue(f.NouveauJeu));
+  QTest::keyClick(table.fenêtre.focusWidget(), Qt::Key_F9);
+  ASSERT_TRUE(panneau->isVisible());
+  QTest::keyClick(table.fenêtre.focusWidget(), Qt::Key_Space);
+  EXPECT_FALSE(table.dossier.Existe("Tirage")) << "JOUER was not pressed";
+  QTest::keyClick(table.fenêtre.focusWidget(), Qt::Key_Escape);
   EXPECT_FALSE(panneau->isVisible());
   table.Touche(Qt::Key_F9);
   EXPECT_TRUE(panneau->isVisible());

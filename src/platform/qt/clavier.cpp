@@ -267,13 +267,14 @@ void Clavier::DéplaceCadre(int dx, int dy) {
 }
 
 // The part of the place's card that shows: the next place of its row lies
-// over its right side and the row in front over its lower side.
+// over its right side, the row in front over its lower side, and the front
+// row runs past the foot of the seat's panel.
 QRect Clavier::PartieVisible() const {
   const auto géométrie = [this](int k) {
     return fenêtre.Vue(t.Fenêtre.CartesJeu[39 + k])->geometry();
   };
   const QRect carte = géométrie(place);
-  QRect visible = carte;
+  QRect visible = carte & cadre->parentWidget()->rect();
   for (int k = 0; k <= 12; ++k) {
     const QRect devant = géométrie(k);
     if (k == place || !devant.intersects(visible))
@@ -367,9 +368,19 @@ void Clavier::OrdreDeTabulation() {
   }
 }
 
-// A click anywhere on the table, or Tab to a button, hides the frame: the
-// mouse or the buttons have the hand again.
 bool Clavier::eventFilter(QObject *objet, QEvent *e) {
+  // While a panel stands over the table, a key meant for the table (Tab to a
+  // button behind it, Espace on the button that had the keyboard) goes to
+  // the panel's own keys instead.
+  if (e->type() == QEvent::KeyPress && objet->isWidgetType() &&
+      static_cast<QWidget *>(objet)->window() == &fenêtre)
+    for (const Panneau &panneau : panneaux)
+      if (panneau.vue->isVisible() && !panneau.vue->isAncestorOf(static_cast<QWidget *>(objet))) {
+        Touche(static_cast<QKeyEvent *>(e));
+        return true;
+      }
+  // A click anywhere on the table, or Tab to a button, hides the frame: the
+  // mouse or the buttons have the hand again.
   const bool clic = e->type() == QEvent::MouseButtonPress;
   const bool tab =
       e->type() == QEvent::KeyPress && (static_cast<QKeyEvent *>(e)->key() == Qt::Key_Tab ||

@@ -1,5 +1,6 @@
 #include "platform/qt/jeux_de_cartes.h"
 
+#include "platform/qt/images.h"
 #include "platform/qt/reglages.h"
 
 #include <QCoreApplication>
@@ -121,15 +122,7 @@ std::optional<std::vector<QImage>> RendJeu(const QString &fichier, QSize taille,
       cible.setSize(bords.size() * échelle);
       cible.moveLeft((taille.width() - cible.width()) / 2);
     }
-    QImage image(taille * ratio, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    image.setDevicePixelRatio(ratio);
-    QPainter p(&image);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.setRenderHint(QPainter::SmoothPixmapTransform);
-    rendu.render(&p, élément, cible);
-    p.end();
-    images[code] = std::move(image);
+    images[code] = Peint(taille, ratio, [&](QPainter &p) { rendu.render(&p, élément, cible); });
   }
   return images;
 }
@@ -153,7 +146,10 @@ struct État {
   // are dropped. The rendering thread reads it too.
   std::atomic<int> génération = 0;
   std::vector<Rendu> rendus;
-  std::vector<std::pair<QSize, qreal>> enCours;
+  // One size is rendered at a time; a size asked meanwhile waits as the next
+  // one, so a window dragged through many sizes costs two renders, not one
+  // per size it passed by.
+  std::optional<std::pair<QSize, qreal>> enCours, suivante;
   std::function<void(bool)> prêt;
   std::function<void()> nouvellesImages;
   QSize dernièreTaille{90, 135};
@@ -177,14 +173,26 @@ QThreadPool &Fil() {
   return *e.fil;
 }
 
+qint64 Octets(const std::vector<Rendu> &rendus) {
+  qint64 octets = 0;
+  for (const Rendu &r : rendus)
+    for (const QPixmap &image : r.images)
+      octets += qint64(image.width()) * image.height() * 4;
+  return octets;
+}
+
 void Demande(QSize taille, qreal ratio) {
   État &e = état();
   if (e.choisi <= 0 || e.choisi > static_cast<int>(Installés().size()))
     return;
-  for (const auto &[t, r] : e.enCours)
-    if (t == taille && r == ratio)
-      return;
-  e.enCours.emplace_back(taille, ratio);
+  if (e.enCours) {
+    if (*e.enCours != std::pair(taille, ratio))
+      e.suivante = std::pair(taille, ratio);
+    else
+      e.suivante.reset();
+    return;
+  }
+  e.enCours = std::pair(taille, ratio);
   const QString fichier = Installés()[e.choisi - 1].fichier;
   const int génération = e.génération;
   Fil().start([fichier, taille, ratio, génération] {
@@ -202,25 +210,30 @@ void Demande(QSize taille, qreal ratio) {
           // now: its pages go back to the system rather than wait in the heap.
           malloc_trim(0);
 #endif
-          std::erase_if(e.enCours,
-                        [&](const auto &d) { return d.first == taille && d.second == ratio; });
+          e.enCours.reset();
           const bool premier = e.rendus.empty();
           if (!*images) {
             // Unreadable, even at a later size (the file gone meanwhile):
             // the game's own deck, rather than a new try at every paint.
             e.choisi = 0;
             ++e.génération;
-            e.enCours.clear();
+            e.suivante.reset();
             e.rendus.clear();
           } else {
             Rendu r{taille, ratio, {}};
             r.images.reserve((*images)->size());
             for (const QImage &image : **images)
               r.images.push_back(image.isNull() ? QPixmap() : QPixmap::fromImage(image));
-            // A few sizes are kept: the window's, and one or two it passed by.
-            if (e.rendus.size() >= 3)
-              e.rendus.erase(e.rendus.begin());
+            // The window's size and the last few it passed by, within the
+            // same bound as the game's own pictures.
             e.rendus.push_back(std::move(r));
+            while (e.rendus.size() > 1 && Octets(e.rendus) > 64LL * 1024 * 1024)
+              e.rendus.erase(e.rendus.begin());
+            const auto suivante = std::exchange(e.suivante, std::nullopt);
+            if (suivante && std::none_of(e.rendus.begin(), e.rendus.end(), [&](const Rendu &r) {
+                  return std::pair(r.taille, r.ratio) == *suivante;
+                }))
+              Demande(suivante->first, suivante->second);
           }
           if (premier && e.prêt) {
             auto prêt = std::move(e.prêt);
@@ -284,7 +297,8 @@ void Choisit(int numéro, std::function<void(bool)> prêt) {
   e.choisi = numéro;
   ++e.génération;
   e.rendus.clear();
-  e.enCours.clear();
+  e.enCours.reset();
+  e.suivante.reset();
   e.prêt = std::move(prêt);
   if (numéro == 0) {
     if (e.prêt)
@@ -342,7 +356,7 @@ QPixmap Image(int code, QSize taille, qreal ratio) {
 }
 
 void AttendsLeRendu() {
-  for (int tour = 0; tour < 1000 && !état().enCours.empty(); ++tour) {
+  for (int tour = 0; tour < 1000 && état().enCours; ++tour) {
     Fil().waitForDone();
     QCoreApplication::sendPostedEvents(QCoreApplication::instance(), QEvent::MetaCall);
   }

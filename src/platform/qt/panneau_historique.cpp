@@ -54,6 +54,9 @@ double Pas(double étendue, int voulu) {
 
 PanneauHistorique::PanneauHistorique(TroisNiveaux &t, QWidget *fenêtre) : QWidget(fenêtre), t(t) {
   setObjectName("panneauHistorique");
+  // The chart and the table are painted: a screen reader gets the panel's
+  // name and its figures in words.
+  setAccessibleName("Historique des scores");
   // Opaque: the stars moving under it cost no repaint of the chart.
   setAttribute(Qt::WA_OpaquePaintEvent);
   fermer = new QPushButton("FERMER", this);
@@ -87,6 +90,14 @@ void PanneauHistorique::Lit() {
                        vide ? "—" : QString::number(f.meilleure),
                        vide ? "—" : QString::number(f.pire), QString::number(f.score)});
   }
+  QStringList phrases;
+  for (std::size_t r = 1; r < tableau.size(); ++r) {
+    QStringList cases;
+    for (int c = 1; c < 6; ++c)
+      cases << tableau[0][c].toLower() + " " + tableau[r][c];
+    phrases << tableau[r][0].trimmed() + " : " + cases.join(", ");
+  }
+  setAccessibleDescription(phrases.join(". ") + ".");
   image = QPixmap();
 }
 

@@ -68,7 +68,10 @@ const char *const PoliceDessinée = "tnPoliceDessinee";
 
 VueContrôle::VueContrôle(const Contrôle &c, const double &échelle, QWidget *parent)
     : QWidget(parent), modèle(c), échelle(échelle) {
-  setAttribute(Qt::WA_OpaquePaintEvent, c.genre != Genre::Étiquette || c.BackColor != SansFond);
+  // A picture may leave the slot's edges clear (a deck's cards narrower than
+  // the slot, rounded corners): what lies under it must then show through.
+  setAttribute(Qt::WA_OpaquePaintEvent,
+               c.genre != Genre::Image && (c.genre != Genre::Étiquette || c.BackColor != SansFond));
   if (c.genre == Genre::Texte) {
     saisie = new QLineEdit(this);
     saisie->setValidator(new ValidateurNom(saisie));
