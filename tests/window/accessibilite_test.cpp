@@ -63,3 +63,28 @@ TEST(Accessibilité, LesContrôlesDonnentRôleEtNom) {
   EXPECT_NE(Nom(table, f.CartesJeu[0]), "carte cachée") << "all cards up after the showdown";
   EXPECT_NE(Nom(table, f.ScoreLabel[0]), "");
 }
+
+// What a reader must not offer: the OK under the book, a press on cards that
+// only show, and the window as a bare filler.
+TEST(Accessibilité, LeLecteurNeProposeQueCeQuiSeVoitEtAgit) {
+  Table table;
+  auto &f = table.t.Fenêtre;
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(table.Vue(f.NouveauJeu)->window())->role(),
+            QAccessible::Window);
+  EXPECT_TRUE(Interface(table, f.VoirRègles[1])->state().invisible);
+  EXPECT_FALSE(Interface(table, f.VoirRègles[0])->state().invisible);
+  table.Clic(f.VoirRègles[0]);
+  EXPECT_FALSE(Interface(table, f.VoirRègles[1])->state().invisible);
+  table.Clic(f.VoirRègles[1]);
+
+  Interface(table, f.NouveauJeu)
+      ->actionInterface()
+      ->doAction(QAccessibleActionInterface::pressAction());
+  const auto presse = [&](const Contrôle &c) {
+    return Interface(table, c)->actionInterface()->actionNames().contains(
+        QAccessibleActionInterface::pressAction());
+  };
+  EXPECT_TRUE(presse(f.CartesJeu[39]));
+  EXPECT_FALSE(presse(f.CartesJeu[0])) << "a computer's card answers no release";
+  EXPECT_FALSE(presse(f.CartesJeu[52]));
+}

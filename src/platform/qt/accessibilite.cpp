@@ -2,6 +2,7 @@
 
 #include <QAccessibleWidget>
 
+#include "platform/qt/fenetre_table.h"
 #include "platform/qt/vue_controle.h"
 
 QString NomDeCarte(int code) {
@@ -16,6 +17,14 @@ QString NomDeCarte(int code) {
 namespace {
 
 bool EstCarte(const Contrôle &c) { return c.Nom.rfind("CartesJeu(", 0) == 0; }
+
+// Only the human's 13 places answer a release; the others only show cards.
+bool EstPlaceHumaine(const Contrôle &c) {
+  if (!EstCarte(c))
+    return false;
+  const int index = std::stoi(c.Nom.substr(10));
+  return index >= 39 && index <= 51;
+}
 
 int NiveauDeLaPlace(const Contrôle &c) {
   const int index = std::stoi(c.Nom.substr(10));
@@ -87,7 +96,7 @@ public:
   QStringList actionNames() const override {
     QStringList noms = QAccessibleWidget::actionNames();
     if (Vue()->relâché && Vue()->modèle.Enabled &&
-        (Vue()->modèle.genre == Genre::Bouton || EstCarte(Vue()->modèle)))
+        (Vue()->modèle.genre == Genre::Bouton || EstPlaceHumaine(Vue()->modèle)))
       noms.prepend(pressAction());
     return noms;
   }
@@ -99,13 +108,41 @@ public:
       QAccessibleWidget::doAction(action);
   }
 
+  // A control lying wholly under a sibling drawn above it (the "OK" under
+  // the book) can't be seen or clicked: a reader should not offer it.
+  QAccessible::State state() const override {
+    QAccessible::State s = QAccessibleWidget::state();
+    if (Recouvert()) {
+      s.invisible = true;
+      s.offscreen = true;
+    }
+    return s;
+  }
+
 private:
+  bool Recouvert() const {
+    const QWidget *w = widget();
+    const QWidget *parent = w->parentWidget();
+    if (!parent || !w->isVisible())
+      return false;
+    const QObjectList &frères = parent->children();
+    for (qsizetype k = frères.indexOf(w) + 1; k < frères.size(); ++k) {
+      const auto *v = dynamic_cast<const VueContrôle *>(frères[k]);
+      if (v && v->isVisible() && v->geometry().contains(w->geometry()))
+        return true;
+    }
+    return false;
+  }
+
   VueContrôle *Vue() const { return static_cast<VueContrôle *>(widget()); }
 };
 
 QAccessibleInterface *Fabrique(const QString &, QObject *objet) {
   if (auto *vue = dynamic_cast<VueContrôle *>(objet))
     return new VueAccessible(vue);
+  // The table is the application's window: a reader looks for a frame.
+  if (auto *fenêtre = dynamic_cast<FenêtreTable *>(objet))
+    return new QAccessibleWidget(fenêtre, QAccessible::Window);
   return nullptr;
 }
 
