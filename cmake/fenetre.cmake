@@ -1,6 +1,6 @@
 # The game: the Qt window over the engine.
 find_package(Qt6 REQUIRED COMPONENTS Widgets Svg)
-file(GLOB FENETRE_SOURCES CONFIGURE_DEPENDS src/platform/qt/*.cpp)
+file(GLOB FENETRE_SOURCES CONFIGURE_DEPENDS src/platform/qt/*/*.cpp)
 add_library(troisniveaux-fenetre STATIC ${FENETRE_SOURCES})
 target_link_libraries(troisniveaux-fenetre PUBLIC troisniveaux-moteur Qt6::Widgets Qt6::Svg)
 add_executable(troisniveaux src/main.cpp)

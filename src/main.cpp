@@ -10,12 +10,12 @@
 #include <unistd.h>
 
 #include "core/table_state.h"
-#include "platform/qt/fenetre_table.h"
-#include "platform/qt/identite.h"
-#include "platform/qt/ligne_de_commande.h"
-#include "platform/qt/pages_web.h"
-#include "platform/qt/plateforme_qt.h"
-#include "platform/qt/sortie.h"
+#include "platform/qt/fenetre/fenetre_table.h"
+#include "platform/qt/bureau/identite.h"
+#include "platform/qt/bureau/ligne_de_commande.h"
+#include "platform/qt/panneaux/pages_web.h"
+#include "platform/qt/fenetre/plateforme_qt.h"
+#include "platform/qt/bureau/sortie.h"
 
 namespace {
 

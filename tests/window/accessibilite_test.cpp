@@ -2,7 +2,7 @@
 
 #include <QAccessible>
 
-#include "platform/qt/accessibilite.h"
+#include "platform/qt/fenetre/accessibilite.h"
 #include "table_essai.h"
 
 namespace {

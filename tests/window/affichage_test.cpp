@@ -11,7 +11,7 @@
 #include "dossier_essai.h"
 
 #include "core/table_state.h"
-#include "platform/qt/affichage.h"
+#include "platform/qt/bureau/affichage.h"
 #include "platform/sans_fenetre.h"
 
 #ifdef TN_XRANDR

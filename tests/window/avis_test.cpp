@@ -9,9 +9,9 @@
 
 #include "core/table_state.h"
 #include "dossier_essai.h"
-#include "platform/qt/dialogue_resolution.h"
-#include "platform/qt/fenetre_table.h"
-#include "platform/qt/plateforme_qt.h"
+#include "platform/qt/panneaux/dialogue_resolution.h"
+#include "platform/qt/fenetre/fenetre_table.h"
+#include "platform/qt/fenetre/plateforme_qt.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <array>
 #include <set>
 
-#include "platform/qt/clavier.h"
+#include "platform/qt/fenetre/clavier.h"
 #include "table_essai.h"
 
 // The frame shows at the first arrow, walks the rows, marks nothing picked

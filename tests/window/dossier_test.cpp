@@ -5,8 +5,8 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
-#include "platform/qt/dossier_donnees.h"
-#include "platform/qt/ligne_de_commande.h"
+#include "platform/qt/bureau/dossier_donnees.h"
+#include "platform/qt/bureau/ligne_de_commande.h"
 
 namespace {
 

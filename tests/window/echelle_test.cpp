@@ -5,7 +5,7 @@
 #include <QTest>
 #include <cmath>
 
-#include "platform/qt/images.h"
+#include "platform/qt/fenetre/images.h"
 #include "table_essai.h"
 
 namespace {

@@ -6,7 +6,7 @@
 #include <QTest>
 #include <QTimer>
 
-#include "platform/qt/images.h"
+#include "platform/qt/fenetre/images.h"
 #include "table_essai.h"
 
 TEST(Fenêtre, LesContrôlesSontÀLeurPlaceEtDansLeursCouleurs) {

@@ -9,10 +9,10 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
-#include "platform/qt/choix_du_jeu.h"
-#include "platform/qt/images.h"
-#include "platform/qt/jeux_de_cartes.h"
-#include "platform/qt/vue_controle.h"
+#include "platform/qt/jeux/choix_du_jeu.h"
+#include "platform/qt/fenetre/images.h"
+#include "platform/qt/jeux/jeux_de_cartes.h"
+#include "platform/qt/fenetre/vue_controle.h"
 #include "table_essai.h"
 
 namespace {

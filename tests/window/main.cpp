@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 
-#include "platform/qt/pages_web.h"
+#include "platform/qt/panneaux/pages_web.h"
 
 int main(int argc, char **argv) {
   if (!std::getenv("QT_QPA_PLATFORM") && !std::getenv("DISPLAY"))

@@ -7,7 +7,7 @@
 #include <QTest>
 
 #include "files/historique.h"
-#include "platform/qt/panneau_historique.h"
+#include "platform/qt/panneaux/panneau_historique.h"
 #include "table_essai.h"
 
 namespace {

@@ -10,8 +10,8 @@
 
 #include "core/table_state.h"
 #include "dossier_essai.h"
-#include "platform/qt/fenetre_table.h"
-#include "platform/qt/plateforme_qt.h"
+#include "platform/qt/fenetre/fenetre_table.h"
+#include "platform/qt/fenetre/plateforme_qt.h"
 
 struct Table {
   DossierEssai dossier;

@@ -8,7 +8,7 @@
 #include <QWidget>
 #include <functional>
 
-#include "platform/qt/pages_web.h"
+#include "platform/qt/panneaux/pages_web.h"
 
 #ifdef TN_WEBENGINE
 #include <QWebEngineView>

@@ -7,8 +7,8 @@
 #include <cstdio>
 
 #include "core/table_state.h"
-#include "platform/qt/plateforme_qt.h"
-#include "platform/qt/sortie.h"
+#include "platform/qt/fenetre/plateforme_qt.h"
+#include "platform/qt/bureau/sortie.h"
 
 namespace {
 struct PlateformePilote : PlateformeQt {

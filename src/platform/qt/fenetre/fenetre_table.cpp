@@ -1,4 +1,4 @@
-#include "platform/qt/fenetre_table.h"
+#include "platform/qt/fenetre/fenetre_table.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -8,14 +8,14 @@
 #include <cmath>
 
 #include "core/table_state.h"
-#include "platform/qt/accessibilite.h"
-#include "platform/qt/choix_du_jeu.h"
-#include "platform/qt/clavier.h"
-#include "platform/qt/fond_etoile.h"
-#include "platform/qt/panneau_historique.h"
-#include "platform/qt/plateforme_qt.h"
-#include "platform/qt/reglages.h"
-#include "platform/qt/vue_controle.h"
+#include "platform/qt/fenetre/accessibilite.h"
+#include "platform/qt/jeux/choix_du_jeu.h"
+#include "platform/qt/fenetre/clavier.h"
+#include "platform/qt/fenetre/fond_etoile.h"
+#include "platform/qt/panneaux/panneau_historique.h"
+#include "platform/qt/fenetre/plateforme_qt.h"
+#include "platform/qt/bureau/reglages.h"
+#include "platform/qt/fenetre/vue_controle.h"
 
 FenêtreTable::FenêtreTable(TroisNiveaux &table, PlateformeQt &plateforme)
     : t(table), plateforme(plateforme) {

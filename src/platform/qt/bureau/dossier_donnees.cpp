@@ -1,4 +1,4 @@
-#include "platform/qt/dossier_donnees.h"
+#include "platform/qt/bureau/dossier_donnees.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -7,7 +7,7 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
-#include "platform/qt/identite.h"
+#include "platform/qt/bureau/identite.h"
 
 #ifndef TN_DONNEES_RELATIVES
 #define TN_DONNEES_RELATIVES "../share/troisniveaux"

@@ -1,4 +1,4 @@
-#include "platform/qt/choix_du_jeu.h"
+#include "platform/qt/jeux/choix_du_jeu.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -12,7 +12,7 @@
 #include <cstdlib>
 #include <memory>
 
-#include "platform/qt/jeux_de_cartes.h"
+#include "platform/qt/jeux/jeux_de_cartes.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "platform/qt/ligne_de_commande.h"
+#include "platform/qt/bureau/ligne_de_commande.h"
 
 #include <cstdio>
 #include <string_view>

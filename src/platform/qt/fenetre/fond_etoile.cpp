@@ -1,4 +1,4 @@
-#include "platform/qt/fond_etoile.h"
+#include "platform/qt/fenetre/fond_etoile.h"
 
 #include <QPaintEvent>
 #include <QPainter>

@@ -1,4 +1,4 @@
-#include "platform/qt/clavier.h"
+#include "platform/qt/fenetre/clavier.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -8,8 +8,8 @@
 #include <cmath>
 
 #include "core/table_state.h"
-#include "platform/qt/fenetre_table.h"
-#include "platform/qt/plateforme_qt.h"
+#include "platform/qt/fenetre/fenetre_table.h"
+#include "platform/qt/fenetre/plateforme_qt.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
-#include "platform/qt/jeux_de_cartes.h"
+#include "platform/qt/jeux/jeux_de_cartes.h"
 
-#include "platform/qt/images.h"
-#include "platform/qt/reglages.h"
+#include "platform/qt/fenetre/images.h"
+#include "platform/qt/bureau/reglages.h"
 
 #include <QCoreApplication>
 #include <QDir>

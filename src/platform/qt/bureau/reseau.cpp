@@ -1,4 +1,4 @@
-#include "platform/qt/reseau.h"
+#include "platform/qt/bureau/reseau.h"
 
 #include <QNetworkInformation>
 #include <QNetworkInterface>

@@ -1,4 +1,4 @@
-#include "platform/qt/vue_controle.h"
+#include "platform/qt/fenetre/vue_controle.h"
 
 #include <QAccessible>
 #include <QChildEvent>
@@ -11,7 +11,7 @@
 #include <cmath>
 
 #include "files/format.h"
-#include "platform/qt/images.h"
+#include "platform/qt/fenetre/images.h"
 
 int Pixels(int twips, double échelle) {
   return static_cast<int>(std::lround(twips * échelle / 15.0));

@@ -1,4 +1,4 @@
-#include "platform/qt/pages_web.h"
+#include "platform/qt/panneaux/pages_web.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -13,7 +13,7 @@
 #include <functional>
 #include <unistd.h>
 
-#include "platform/qt/vue_texte.h"
+#include "platform/qt/panneaux/vue_texte.h"
 
 #ifdef TN_WEBENGINE
 #include <QWebEngineProfile>

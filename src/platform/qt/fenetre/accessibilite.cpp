@@ -1,9 +1,9 @@
-#include "platform/qt/accessibilite.h"
+#include "platform/qt/fenetre/accessibilite.h"
 
 #include <QAccessibleWidget>
 
-#include "platform/qt/fenetre_table.h"
-#include "platform/qt/vue_controle.h"
+#include "platform/qt/fenetre/fenetre_table.h"
+#include "platform/qt/fenetre/vue_controle.h"
 
 QString NomDeCarte(int code) {
   static const char *const rangs[13] = {"deux", "trois", "quatre", "cinq", "six", "sept", "huit",

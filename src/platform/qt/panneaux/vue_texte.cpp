@@ -1,4 +1,4 @@
-#include "platform/qt/vue_texte.h"
+#include "platform/qt/panneaux/vue_texte.h"
 
 #include <QFile>
 #include <QNetworkAccessManager>

@@ -1,4 +1,4 @@
-#include "platform/qt/panneau_historique.h"
+#include "platform/qt/panneaux/panneau_historique.h"
 
 #include <QCoreApplication>
 #include <QEvent>

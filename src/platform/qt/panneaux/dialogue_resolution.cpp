@@ -1,11 +1,11 @@
-#include "platform/qt/dialogue_resolution.h"
+#include "platform/qt/panneaux/dialogue_resolution.h"
 
 #include <QDialog>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
 
-#include "platform/qt/pages_web.h"
+#include "platform/qt/panneaux/pages_web.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "platform/qt/sortie.h"
+#include "platform/qt/bureau/sortie.h"
 
 #include <QGuiApplication>
 #include <QSessionManager>
@@ -10,7 +10,7 @@
 #include <unistd.h>
 
 #include "core/table_state.h"
-#include "platform/qt/affichage.h"
+#include "platform/qt/bureau/affichage.h"
 
 namespace {
 

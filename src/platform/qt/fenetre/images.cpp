@@ -1,4 +1,4 @@
-#include "platform/qt/images.h"
+#include "platform/qt/fenetre/images.h"
 
 #include <QCache>
 #include <QFont>
@@ -7,7 +7,7 @@
 #include <cmath>
 #include <tuple>
 
-#include "platform/qt/jeux_de_cartes.h"
+#include "platform/qt/jeux/jeux_de_cartes.h"
 #include "table/controles.h"
 
 namespace {

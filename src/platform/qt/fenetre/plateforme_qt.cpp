@@ -1,4 +1,4 @@
-#include "platform/qt/plateforme_qt.h"
+#include "platform/qt/fenetre/plateforme_qt.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
@@ -9,11 +9,11 @@
 #include <cstdio>
 
 #include "core/table_state.h"
-#include "platform/qt/affichage.h"
-#include "platform/qt/dialogue_resolution.h"
-#include "platform/qt/dossier_donnees.h"
-#include "platform/qt/pages_web.h"
-#include "platform/qt/reseau.h"
+#include "platform/qt/bureau/affichage.h"
+#include "platform/qt/panneaux/dialogue_resolution.h"
+#include "platform/qt/bureau/dossier_donnees.h"
+#include "platform/qt/panneaux/pages_web.h"
+#include "platform/qt/bureau/reseau.h"
 
 PlateformeQt::PlateformeQt() { depuisDernierTour.start(); }
 PlateformeQt::~PlateformeQt() = default;

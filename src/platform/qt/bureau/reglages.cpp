@@ -1,4 +1,4 @@
-#include "platform/qt/reglages.h"
+#include "platform/qt/bureau/reglages.h"
 
 #include <QCoreApplication>
 

@@ -1,4 +1,4 @@
-#include "platform/qt/affichage.h"
+#include "platform/qt/bureau/affichage.h"
 
 #include <QGuiApplication>
 #include <QScreen>

@@ -1,12 +1,12 @@
-#include "platform/qt/identite.h"
+#include "platform/qt/bureau/identite.h"
 
 #include <QApplication>
 #include <QIcon>
 #include <QMessageBox>
 #include <cstdio>
 
-#include "platform/qt/dossier_donnees.h"
-#include "platform/qt/pages_web.h"
+#include "platform/qt/bureau/dossier_donnees.h"
+#include "platform/qt/panneaux/pages_web.h"
 
 #ifndef TN_ID_APPLICATION
 #define TN_ID_APPLICATION "io.github.troisniveaux.TroisNiveaux"
