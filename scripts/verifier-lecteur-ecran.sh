@@ -11,8 +11,12 @@ trap 'rm -rf "$dossier"' EXIT
 cp "$construction/troisniveaux" "$construction/Noms" "$construction/Scores" "$construction"/*.htm \
   "$dossier/"
 mkdir "$dossier/maison"
+# A time of the last deal, so that the clock counts and can be heard (or not).
+printf '40\r\n' >"$dossier/Temps2"
 
-timeout 120 xvfb-run -a -s "-screen 0 1280x1024x24" dbus-run-session -- bash -c '
+# A display number of its own: other checks may be starting their screens at
+# the same moment from :99.
+timeout 120 xvfb-run -a -n $((100 + RANDOM % 800)) -s "-screen 0 1280x1024x24" dbus-run-session -- bash -c '
   /usr/libexec/at-spi-bus-launcher --launch-immediately &
   lanceur=$!
   code=0
