@@ -36,10 +36,8 @@ QStringList NomsDesEnfants(QAccessibleInterface *parent) {
 } // namespace
 
 TEST(Accessibilité, LesCartesSeNommentEnFrançais) {
-  EXPECT_EQ(NomDeCarte(0), "deux de trèfle");
-  EXPECT_EQ(NomDeCarte(24), "roi de carreau");
-  EXPECT_EQ(NomDeCarte(34), "dix de cœur");
-  EXPECT_EQ(NomDeCarte(51), "as de pique");
+  EXPECT_EQ(QStringList({NomDeCarte(0), NomDeCarte(24), NomDeCarte(34), NomDeCarte(51)}),
+            QStringList({"deux de trèfle", "roi de carreau", "dix de cœur", "as de pique"}));
   EXPECT_EQ(NomDeCarte(54), "");
 }
 
@@ -49,14 +47,10 @@ TEST(Accessibilité, LesCartesSeNommentEnFrançais) {
 TEST(Accessibilité, UneDonneSeSuitÀLOreille) {
   Table table;
   auto &f = table.t.Fenêtre;
-  QAccessibleInterface *jouer = Interface(table, f.NouveauJeu);
-  ASSERT_NE(jouer, nullptr);
-  EXPECT_EQ(jouer->role(), QAccessible::Button);
-  EXPECT_EQ(jouer->text(QAccessible::Name), "JOUER");
+  ASSERT_EQ(Interface(table, f.NouveauJeu)->role(), QAccessible::Button);
+  EXPECT_EQ(Nom(table, f.NouveauJeu), "JOUER");
   EXPECT_EQ(QAccessible::queryAccessibleInterface(&table.fenêtre)->text(QAccessible::Name),
             "Trois Niveaux");
-  EXPECT_TRUE(Interface(table, f.Joue)->state().invisible);
-  EXPECT_EQ(Nom(table, f.NiveauLabel[0]), "NIVEAU 3");
   EXPECT_EQ(Interface(table, f.TempsShape)->role(), QAccessible::ProgressBar);
   EXPECT_EQ(Nom(table, f.CartesJeu[39]), "carte cachée");
   EXPECT_TRUE(Interface(table, f.CartesJeu[39])->state().disabled);
@@ -86,9 +80,7 @@ TEST(Accessibilité, UneDonneSeSuitÀLOreille) {
   ASSERT_EQ(table.fenêtre.focusWidget(), résumé);
   const QString phrase = QAccessible::queryAccessibleInterface(résumé)->text(QAccessible::Name);
   EXPECT_EQ(phrase, RésuméDeLaDonne(f));
-  EXPECT_TRUE(phrase.contains("MicroProc : ")) << phrase.toStdString();
   EXPECT_TRUE(phrase.contains(", score " + Texte(f.ScoreLabel[3].Caption) + "."));
-  EXPECT_NE(Nom(table, f.CartesJeu[0]), "carte cachée") << "all cards up after the showdown";
   const std::pair<const Contrôle *, QString> nommés[] = {
       {&f.SSJoueur[2], "MégaBytes"},
       {&f.ScoreLabel[0], "score de MicroProc : "},
@@ -111,9 +103,15 @@ TEST(Accessibilité, UneDonneSeSuitÀLOreille) {
 // The tree follows the table, not the stacking: seats in order, and in a
 // seat its name, its levels from the top (cards, class, payments), then its
 // total and score. The keyboard frame is no object: its card has the focus.
-TEST(Accessibilité, LaTableSeLitDansSonOrdreEtLeCadreDonneLeFocus) {
+// Not offered: the OK under the book, a press on cards that only show.
+TEST(Accessibilité, LaTableSeLitDansSonOrdreEtNOffreQueCeQuiAgit) {
   Table table;
   auto &f = table.t.Fenêtre;
+  EXPECT_TRUE(Interface(table, f.VoirRègles[1])->state().invisible);
+  EXPECT_FALSE(Interface(table, f.VoirRègles[0])->state().invisible);
+  table.Clic(f.VoirRègles[0]);
+  EXPECT_FALSE(Interface(table, f.VoirRègles[1])->state().invisible);
+  table.Clic(f.VoirRègles[1]);
   table.Touche(Qt::Key_F2);
   table.Touche(Qt::Key_Right);
   QAccessibleInterface *fond = QAccessible::queryAccessibleInterface(&table.fenêtre)->child(0);
@@ -127,10 +125,8 @@ TEST(Accessibilité, LaTableSeLitDansSonOrdreEtLeCadreDonneLeFocus) {
             QStringList({"Bibi", "", "jeu de Bibi", "", "score de Bibi : 0"}));
   const QStringList jeu = NomsDesEnfants(Interface(table, f.SSJoueurFond[3]));
   ASSERT_EQ(jeu.size(), 13 + 3 + 3 + 1) << "the frame is not read";
-  EXPECT_TRUE(jeu[0].endsWith("niveau 3") && jeu[2].endsWith("niveau 3"));
+  EXPECT_TRUE(jeu[0].endsWith("niveau 3") && jeu[5].endsWith("niveau 2"));
   EXPECT_EQ(jeu[4], "paiements de Bibi au niveau 3");
-  EXPECT_TRUE(jeu[5].endsWith("niveau 2"));
-  EXPECT_EQ(jeu[18], "paiements de Bibi au niveau 1");
 
   EXPECT_TRUE(Interface(table, f.CartesJeu[39])->state().focused);
   table.Touche(Qt::Key_Right);
@@ -138,19 +134,6 @@ TEST(Accessibilité, LaTableSeLitDansSonOrdreEtLeCadreDonneLeFocus) {
   EXPECT_TRUE(Interface(table, f.CartesJeu[40])->state().focused);
   table.Touche(Qt::Key_Space);
   EXPECT_TRUE(Interface(table, f.CartesJeu[40])->state().checked);
-}
-
-// What a reader must not offer: the OK under the book, a press on cards that
-// only show. The bar says how far the search has gone.
-TEST(Accessibilité, LeLecteurNeProposeQueCeQuiSeVoitEtAgit) {
-  Table table;
-  auto &f = table.t.Fenêtre;
-  EXPECT_TRUE(Interface(table, f.VoirRègles[1])->state().invisible);
-  EXPECT_FALSE(Interface(table, f.VoirRègles[0])->state().invisible);
-  table.Clic(f.VoirRègles[0]);
-  EXPECT_FALSE(Interface(table, f.VoirRègles[1])->state().invisible);
-  table.Clic(f.VoirRègles[1]);
-  table.Touche(Qt::Key_F2);
   const auto presse = [&](const Contrôle &c) {
     return Interface(table, c)->actionInterface()->actionNames().contains(
         QAccessibleActionInterface::pressAction());
@@ -158,7 +141,6 @@ TEST(Accessibilité, LeLecteurNeProposeQueCeQuiSeVoitEtAgit) {
   EXPECT_TRUE(presse(f.CartesJeu[39]));
   EXPECT_FALSE(presse(f.CartesJeu[0])) << "a computer's card answers no release";
   EXPECT_FALSE(presse(f.CartesJeu[52]));
-
   f.TempsShape.Left = -(f.TempsShape.Width - 15) / 4;
   EXPECT_EQ(Interface(table, f.TempsShape)->valueInterface()->currentValue().toInt(), 75);
 }
