@@ -212,6 +212,14 @@ try:
     paie = [o.name for o in objets if re.match(r".*, niveau [123] contre .* : -?\d+$", o.name)]
     if len(paie) != 36:
         faute(f"{len(paie)} paiements nommés au lieu de 36")
+    # Panels give their text as it reads, without the document's markers.
+    for objet in objets:
+        try:
+            texte = objet.queryText().getText(0, -1)
+        except NotImplementedError:
+            continue
+        if "\ufdd0" in texte or "\ufdd1" in texte:
+            faute(f"le texte de « {objet.name} » ({objet.getRoleName()}) porte des marques")
     if horloge:
         faute(f"l'horloge se fait entendre : {horloge}")
     touche("ctrl+q")

@@ -93,8 +93,9 @@ TEST(Accessibilité, UneDonneSeSuitÀLOreille) {
 
   table.Clic(f.VoirOrdi[0]);
   EXPECT_EQ(table.fenêtre.focusWidget(), résumé);
-  EXPECT_TRUE(QAccessible::queryAccessibleInterface(résumé)->text(QAccessible::Name).startsWith(
-      "Solution de l'ordinateur pour Bibi. Niveau 3 : "));
+  EXPECT_TRUE(QAccessible::queryAccessibleInterface(résumé)
+                  ->text(QAccessible::Name)
+                  .startsWith("Solution de l'ordinateur pour Bibi. Niveau 3 : "));
   table.Clic(f.VoirOrdi[1]);
   table.Clic(f.VoirRègles[0]);
   EXPECT_EQ(table.fenêtre.focusWidget(), table.Vue(f.AfficheRègles)) << "the book is read";

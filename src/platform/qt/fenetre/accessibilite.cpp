@@ -22,10 +22,9 @@ QString NomDeCarte(int code) {
   return QString("%1 de %2").arg(rangs[code % 13], couleurs[code / 13]);
 }
 
+// Texts for readers only are in the context "Accessibilite" of the
+// translations, with the game's French as their source.
 namespace {
-
-// Texts for readers only, in the game's French; kept apart for translators.
-QString Tr(const char *texte) { return QCoreApplication::translate("Accessibilite", texte); }
 
 // A widget set apart from the reader's tree (the keyboard frame, which only
 // draws what the focus already says).
@@ -93,11 +92,11 @@ QString Joueur(const Contrôles &f, int siège) {
 // name, its levels from the top of the table down (cards, class, payments),
 // then its total and score.
 int RangDeLecture(const Contrôle &c, const Contrôles &f) {
-  const Contrôle *hauts[] = {&f.SSImage,  &f.SSJoueur[0], &f.SSJoueur[1],   &f.SSJoueur[2],
-                             &f.SSJoueur[3], &f.TempsSS,  &f.MenuSS,        &f.RèglesText,
-                             &f.NomsJoueursSS, &f.NonConnectéPic, &f.Pub0Pic, &f.Pub1Pic};
-  const Contrôle *menu[] = {&f.NouveauJeu,  &f.Joue,        &f.Arrêt,       &f.Rejoue,
-                            &f.Mode,        &f.NomsJoueurs, &f.Scoresà0,    &f.VoirOrdi[0],
+  const Contrôle *hauts[] = {&f.SSImage,       &f.SSJoueur[0],    &f.SSJoueur[1], &f.SSJoueur[2],
+                             &f.SSJoueur[3],   &f.TempsSS,        &f.MenuSS,      &f.RèglesText,
+                             &f.NomsJoueursSS, &f.NonConnectéPic, &f.Pub0Pic,     &f.Pub1Pic};
+  const Contrôle *menu[] = {&f.NouveauJeu,  &f.Joue,          &f.Arrêt,         &f.Rejoue,
+                            &f.Mode,        &f.NomsJoueurs,   &f.Scoresà0,      &f.VoirOrdi[0],
                             &f.VoirOrdi[1], &f.VoirRègles[0], &f.VoirRègles[1], &f.Fin};
   for (const auto &liste : {std::vector<const Contrôle *>(std::begin(hauts), std::end(hauts)),
                             std::vector<const Contrôle *>(std::begin(menu), std::end(menu))})
@@ -176,7 +175,8 @@ class FenêtreAccessible : public Ordonné {
 public:
   explicit FenêtreAccessible(QWidget *w) : Ordonné(w, QAccessible::Window) {}
   QString text(QAccessible::Text t) const override {
-    return t == QAccessible::Name ? Tr("Trois Niveaux") : Ordonné::text(t);
+    return t == QAccessible::Name ? QCoreApplication::translate("Accessibilite", "Trois Niveaux")
+                                  : Ordonné::text(t);
   }
 };
 
@@ -316,12 +316,13 @@ public:
 
   QString localizedActionName(const QString &action) const override {
     if (action == PresserAction())
-      return Tr("presser");
+      return QCoreApplication::translate("Accessibilite", "presser");
     return Ordonné::localizedActionName(action);
   }
   QString localizedActionDescription(const QString &action) const override {
     if (action == PresserAction())
-      return Tr("L'ordinateur finit sa recherche sans attendre");
+      return QCoreApplication::translate("Accessibilite",
+                                         "L'ordinateur finit sa recherche sans attendre");
     return Ordonné::localizedActionDescription(action);
   }
 
@@ -422,41 +423,51 @@ QString NomAccessible(const Contrôle &c, const Contrôles &f) {
   if (int s = Index(c, f.SSJoueur); s >= 0)
     return Joueur(f, s);
   if (int s = Index(c, f.SSJoueurFond); s >= 0)
-    return Tr("jeu de %1").arg(Joueur(f, s));
+    return QCoreApplication::translate("Accessibilite", "jeu de %1").arg(Joueur(f, s));
   if (int s = Index(c, f.ScoreLabel); s >= 0)
-    return Tr("score de %1 : %2").arg(Joueur(f, s), texte);
+    return QCoreApplication::translate("Accessibilite", "score de %1 : %2")
+        .arg(Joueur(f, s), texte);
   if (texte.isEmpty() && c.genre == Genre::Étiquette && &c != &f.TempsLabel)
     return QString();
   if (int s = Index(c, f.TotalLabel); s >= 0)
-    return Tr("total de la donne de %1 : %2").arg(Joueur(f, s), texte);
+    return QCoreApplication::translate("Accessibilite", "total de la donne de %1 : %2")
+        .arg(Joueur(f, s), texte);
   if (int s = Index(c, f.ExtraLabel); s >= 0)
-    return Tr("%1 : %2").arg(Joueur(f, s), texte);
+    return QCoreApplication::translate("Accessibilite", "%1 : %2").arg(Joueur(f, s), texte);
   if (int i = Index(c, f.EnchèreLabel); i >= 0)
-    return Tr("%1, niveau %2 : %3").arg(Joueur(f, i / 3), QString::number(i % 3 + 1), texte);
+    return QCoreApplication::translate("Accessibilite", "%1, niveau %2 : %3")
+        .arg(Joueur(f, i / 3), QString::number(i % 3 + 1), texte);
   if (int i = Index(c, f.LabelPaie); i >= 0) {
     // LabelPaie(3 p + j) in SSPaie(p = 3 s + r): level r + 1 of seat s, against
     // the j-th of the other seats in rising order.
     const int p = i / 3, j = i % 3, s = p / 3;
     const int adversaire = j < s ? j : j + 1;
-    return Tr("%1, niveau %2 contre %3 : %4")
+    return QCoreApplication::translate("Accessibilite", "%1, niveau %2 contre %3 : %4")
         .arg(Joueur(f, s), QString::number(p % 3 + 1), Joueur(f, adversaire), texte);
   }
   if (int i = Index(c, f.SSPaie); i >= 0)
-    return Tr("paiements de %1 au niveau %2").arg(Joueur(f, i / 3), QString::number(i % 3 + 1));
+    return QCoreApplication::translate("Accessibilite", "paiements de %1 au niveau %2")
+        .arg(Joueur(f, i / 3), QString::number(i % 3 + 1));
   if (&c == &f.TempsLabel)
-    return texte.isEmpty() ? Tr("horloge") : Tr("horloge : %1").arg(texte);
+    return texte.isEmpty()
+               ? QCoreApplication::translate("Accessibilite", "horloge")
+               : QCoreApplication::translate("Accessibilite", "horloge : %1").arg(texte);
   return NomAccessible(c);
 }
 
 QString RésuméDeLaDonne(const Contrôles &f) {
-  QStringList phrases{Tr("Fin de la donne.")};
+  QStringList phrases{QCoreApplication::translate("Accessibilite", "Fin de la donne.")};
   for (int s = 0; s <= 3; ++s) {
     const QString nom = Joueur(f, s), spéciale = Texte(f.ExtraLabel[s].Caption).simplified(),
                   total = Texte(f.TotalLabel[s].Caption).simplified(),
                   score = Texte(f.ScoreLabel[s].Caption).simplified();
     phrases << (spéciale.isEmpty()
-                    ? Tr("%1 : total de la donne %2, score %3.").arg(nom, total, score)
-                    : Tr("%1 : %2, total de la donne %3, score %4.").arg(nom, spéciale, total, score));
+                    ? QCoreApplication::translate("Accessibilite",
+                                                  "%1 : total de la donne %2, score %3.")
+                          .arg(nom, total, score)
+                    : QCoreApplication::translate("Accessibilite",
+                                                  "%1 : %2, total de la donne %3, score %4.")
+                          .arg(nom, spéciale, total, score));
   }
   return phrases.join(' ');
 }
@@ -465,14 +476,17 @@ namespace {
 
 // The solution view in words: the human's seat as the computer would lay it.
 QString RésuméDeLaSolution(const Contrôles &f) {
-  QStringList phrases{Tr("Solution de l'ordinateur pour %1.").arg(Joueur(f, 3))};
+  QStringList phrases{
+      QCoreApplication::translate("Accessibilite", "Solution de l'ordinateur pour %1.")
+          .arg(Joueur(f, 3))};
   const int premières[] = {10, 5, 0}, dernières[] = {12, 9, 4};
   for (int n = 0; n <= 2; ++n) {
     QStringList cartes;
     for (int k = premières[n]; k <= dernières[n]; ++k)
       cartes << NomDeCarte(f.CartesJeu[39 + k].Picture);
     const Contrôle &classe = f.EnchèreLabel[9 + 2 - n];
-    phrases << Tr("Niveau %1 : %2").arg(QString::number(3 - n), cartes.join(", ")) +
+    phrases << QCoreApplication::translate("Accessibilite", "Niveau %1 : %2")
+                       .arg(QString::number(3 - n), cartes.join(", ")) +
                    (classe.Visible ? ", " + Texte(classe.Caption).simplified() : QString()) + ".";
   }
   if (const QString spéciale = Texte(f.ExtraLabel[3].Caption).simplified(); !spéciale.isEmpty())
