@@ -99,6 +99,9 @@ TEST(Accessibilité, UneDonneSeSuitÀLOreille) {
   table.Clic(f.VoirOrdi[1]);
   table.Clic(f.VoirRègles[0]);
   EXPECT_EQ(table.fenêtre.focusWidget(), table.Vue(f.AfficheRègles)) << "the book is read";
+  EXPECT_EQ(Nom(table, f.TextCombien), "page 1 sur 14");
+  table.Clic(f.Rejoue);
+  EXPECT_EQ(table.fenêtre.focusWidget(), résumé) << "a replay's result is said too";
 }
 
 // The tree follows the table, not the stacking: seats in order, and in a

@@ -98,10 +98,9 @@ int RangDeLecture(const Contrôle &c, const Contrôles &f) {
   const Contrôle *menu[] = {&f.NouveauJeu,  &f.Joue,          &f.Arrêt,         &f.Rejoue,
                             &f.Mode,        &f.NomsJoueurs,   &f.Scoresà0,      &f.VoirOrdi[0],
                             &f.VoirOrdi[1], &f.VoirRègles[0], &f.VoirRègles[1], &f.Fin};
-  for (const auto &liste : {std::vector<const Contrôle *>(std::begin(hauts), std::end(hauts)),
-                            std::vector<const Contrôle *>(std::begin(menu), std::end(menu))})
-    if (auto où = std::find(liste.begin(), liste.end(), &c); où != liste.end())
-      return static_cast<int>(où - liste.begin()) * 10;
+  for (int k = 0; k < 12; ++k)
+    if (hauts[k] == &c || menu[k] == &c)
+      return 10 * k;
   if (Index(c, f.JoueursLabel) >= 0)
     return 0;
   if (Index(c, f.ExtraLabel) >= 0)
@@ -448,6 +447,9 @@ QString NomAccessible(const Contrôle &c, const Contrôles &f) {
   if (int i = Index(c, f.SSPaie); i >= 0)
     return QCoreApplication::translate("Accessibilite", "paiements de %1 au niveau %2")
         .arg(Joueur(f, i / 3), QString::number(i % 3 + 1));
+  if (&c == &f.TextCombien) // " 3/14"
+    return QCoreApplication::translate("Accessibilite", "page %1 sur %2")
+        .arg(texte.section('/', 0, 0), texte.section('/', 1));
   if (&c == &f.TempsLabel)
     return texte.isEmpty()
                ? QCoreApplication::translate("Accessibilite", "horloge")
@@ -524,7 +526,7 @@ SuiviLecteur::SuiviLecteur(FenêtreTable &fenêtre, TroisNiveaux &t)
 void SuiviLecteur::Annonce(const QString &phrase) {
   static_cast<RésuméWidget *>(résumé)->phrase = phrase;
   fenêtre.Touches().CacheCadre();
-  if (résumé->hasFocus()) {
+  if (fenêtre.focusWidget() == résumé) {
     QAccessibleEvent nom(résumé, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&nom);
   } else {
@@ -537,8 +539,12 @@ void SuiviLecteur::AvantSynchronisation() {
   const bool maintenantSolution = f.VoirOrdi[1].Visible;
   if (t.ScoresÉcrits && (!résultat || maintenantSolution != solution))
     Annonce(maintenantSolution ? RésuméDeLaSolution(f) : RésuméDeLaDonne(f));
-  else if (!t.ScoresÉcrits && résultat && résumé->hasFocus())
-    fenêtre.setFocus(Qt::OtherFocusReason);
+  else if (!t.ScoresÉcrits && résultat) {
+    // A new deal: last deal's sentence would only mislead.
+    static_cast<RésuméWidget *>(résumé)->phrase.clear();
+    if (fenêtre.focusWidget() == résumé)
+      fenêtre.setFocus(Qt::OtherFocusReason);
+  }
   résultat = t.ScoresÉcrits;
   solution = maintenantSolution;
   QWidget *livre = fenêtre.Vue(f.RèglesText);
