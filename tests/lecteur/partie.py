@@ -70,7 +70,10 @@ def action(objet, nom):
         faute(f"« {objet.name} » n'offre pas l'action {nom} ({noms})")
         return
     début = time.monotonic()
-    actions.doAction(noms.index(nom))
+    try:
+        actions.doAction(noms.index(nom))
+    except GLib.Error as erreur:  # no answer before the bus gave up
+        faute(f"l'action {nom} sur « {objet.name} » : {erreur.message}")
     durée = time.monotonic() - début
     if durée > 1.0:
         faute(f"l'action {nom} sur « {objet.name} » a pris {durée:.1f} s")
