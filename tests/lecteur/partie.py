@@ -40,7 +40,8 @@ def pompe(secondes=0.0, jusqua=None):
         time.sleep(0.02)
 
 
-def au_focus(évènement):
+def écoute(évènement):
+    """Keeps the focus events, and the clock's name changes apart."""
     if évènement.type.startswith("object:property-change:accessible-name"):
         if évènement.source.name.startswith("horloge"):
             horloge.append(évènement.source.name)
@@ -97,7 +98,7 @@ env.pop("XDG_DATA_HOME", None)
 def lance():
     """The game, once it shows on the bus; a start that could not reach the
     virtual screen (busy machine) is tried once more."""
-    for essai in range(2):
+    for _ in range(2):
         jeu = subprocess.Popen([os.path.join(dossier, "troisniveaux")], env=env)
         limite = time.monotonic() + 20
         while time.monotonic() < limite and jeu.poll() is None:
@@ -116,7 +117,7 @@ try:
         sys.exit("ÉCHEC : le jeu n'est pas apparu sur le bus d'accessibilité")
     if fenêtre.name != "Trois Niveaux":
         faute(f"la fenêtre s'appelle « {fenêtre.name} »")
-    pyatspi.Registry.registerEventListener(au_focus, "focus:", "object:state-changed:focused",
+    pyatspi.Registry.registerEventListener(écoute, "focus:", "object:state-changed:focused",
                                            "object:property-change:accessible-name")
     objets = tous(fenêtre)
 

@@ -70,6 +70,7 @@ TEST(Accessibilité, UneDonneSeSuitÀLOreille) {
   const QString premier = Nom(table, f.CartesJeu[39]);
   table.Clic(f.CartesJeu[39]);
   EXPECT_TRUE(Interface(table, f.CartesJeu[39])->state().checked);
+  EXPECT_EQ(Nom(table, f.CartesJeu[39]), premier + ", levée");
   table.Clic(f.CartesJeu[51]);
   EXPECT_FALSE(Interface(table, f.CartesJeu[39])->state().checked);
   EXPECT_TRUE(Nom(table, f.CartesJeu[51]).startsWith(premier.section(',', 0, 0) + ", niveau 3"));

@@ -287,7 +287,14 @@ public:
     const Contrôle &c = Vue()->modèle;
     if (t == QAccessible::Name) {
       const FenêtreTable *fenêtre = Fenêtre();
-      return fenêtre ? NomAccessible(c, fenêtre->Table().Fenêtre) : NomAccessible(c);
+      if (!fenêtre)
+        return NomAccessible(c);
+      // Said in the name too: a reader tells a name's change on the focus
+      // whatever the object's kind.
+      if (state().checked)
+        return QCoreApplication::translate("Accessibilite", "%1, levée")
+            .arg(NomAccessible(c, fenêtre->Table().Fenêtre));
+      return NomAccessible(c, fenêtre->Table().Fenêtre);
     }
     if (t == QAccessible::Description && !widget()->toolTip().isEmpty())
       return widget()->toolTip();
@@ -342,7 +349,8 @@ public:
       s.focused = clavier.CadreVisible() && clavier.PlaceDuCadre() == index - 39 &&
                   fenêtre->focusWidget() == fenêtre;
       s.checkable = true;
-      s.checked = t.CarteLevée && t.EmplacementLevé == index;
+      s.checked = s.selected = t.CarteLevée && t.EmplacementLevé == index;
+      s.selectable = true;
     }
     return s;
   }
@@ -568,9 +576,11 @@ void SuiviLecteur::AprèsSynchronisation() {
     for (const int index : {levée, maintenantLevée})
       if (index >= 39 && index <= 51) {
         QAccessible::State changé;
-        changé.checked = true;
+        changé.checked = changé.selected = true;
         QAccessibleStateChangeEvent état(fenêtre.Vue(f.CartesJeu[index]), changé);
         QAccessible::updateAccessibility(&état);
+        QAccessibleEvent nom(fenêtre.Vue(f.CartesJeu[index]), QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&nom);
       }
   levée = maintenantLevée;
 }
