@@ -17,7 +17,7 @@ printf '40\r\n' >"$dossier/Temps2"
 # A display number of its own: other checks may be starting their screens at
 # the same moment from :99.
 timeout 120 xvfb-run -a -n $((100 + RANDOM % 800)) -s "-screen 0 1280x1024x24" dbus-run-session -- bash -c '
-  /usr/libexec/at-spi-bus-launcher --launch-immediately &
+  /usr/libexec/at-spi-bus-launcher --launch-immediately 2>/dev/null &
   lanceur=$!
   code=0
   /usr/bin/python3 "$1" "$2" || code=$?

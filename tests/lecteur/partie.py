@@ -19,6 +19,7 @@ dossier = sys.argv[1]
 fautes = []
 événements = []
 horloge = []  # name changes of the clock, which should stay silent
+durées = []  # of the actions, in seconds
 
 
 def faute(message):
@@ -76,6 +77,7 @@ def action(objet, nom):
     except GLib.Error as erreur:  # no answer before the bus gave up
         faute(f"l'action {nom} sur « {objet.name} » : {erreur.message}")
     durée = time.monotonic() - début
+    durées.append(durée)
     if durée > 1.0:
         faute(f"l'action {nom} sur « {objet.name} » a pris {durée:.1f} s")
 
@@ -195,6 +197,7 @@ try:
         faute(f"le focus ne vient pas sur le résultat : {événements}")
     résultat = next((n for r, n in événements if n.startswith("Fin de la donne.")), "")
     print(résultat)
+    print(f"{len(durées)} actions, la plus longue en {max(durées) * 1000:.0f} ms")
 
     # The sentence and the labels say the scores the file holds.
     pompe(0.5)
