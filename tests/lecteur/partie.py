@@ -203,19 +203,15 @@ try:
     pompe(0.5)
     scores = [l.strip() for l in open(os.path.join(dossier, "Scores"), encoding="cp1252")
               if l.strip()]
+    étiquettes = {o.name for o in objets}
     for nom, score in zip(noms, scores):
-        if not re.search(re.escape(nom) + r" :[^.]*, score " + re.escape(score) + r"\.", résultat):
+        phrase = re.search(re.escape(nom) + r" : (?:[^,.]*, )?total de la donne (-?\d+), "
+                           r"score (-?\d+)\.", résultat)
+        if not phrase or phrase.group(2) != score:
             faute(f"la phrase ne dit pas « score {score} » pour {nom}")
-        étiquette = [o.name for o in objets if o.name.startswith(f"score de {nom} : ")]
-        if étiquette != [f"score de {nom} : {score}"]:
-            faute(f"étiquette du score de {nom} : {étiquette}, fichier : {score}")
-    totaux = [o.name for o in objets if o.name.startswith("total de la donne de ")]
-    for t in totaux:
-        nom, total = re.match(r"total de la donne de (.*) : (.*)", t).groups()
-        if f"{nom} :" not in résultat or f"total de la donne {total}," not in résultat:
-            faute(f"« {t} » ne s'accorde pas avec la phrase")
-    if len(totaux) != 4:
-        faute(f"{len(totaux)} totaux nommés au lieu de 4")
+        elif {f"score de {nom} : {score}",
+              f"total de la donne de {nom} : {phrase.group(1)}"} - étiquettes:
+            faute(f"les étiquettes de {nom} ne disent pas ce que disent la phrase et le fichier")
     paie = [o.name for o in objets if re.match(r".*, niveau [123] contre .* : -?\d+$", o.name)]
     if len(paie) != 36:
         faute(f"{len(paie)} paiements nommés au lieu de 36")
