@@ -547,6 +547,8 @@ void SuiviLecteur::AvantSynchronisation() {
   const bool maintenantSolution = f.VoirOrdi[1].Visible;
   if (t.ScoresÉcrits && (!résultat || maintenantSolution != solution))
     Annonce(maintenantSolution ? RésuméDeLaSolution(f) : RésuméDeLaDonne(f));
+  else if (t.ScoresÉcrits && !solution) // SCORES A 0, a renamed seat: said as the labels say it
+    static_cast<RésuméWidget *>(résumé)->phrase = RésuméDeLaDonne(f);
   else if (!t.ScoresÉcrits && résultat) {
     // A new deal: last deal's sentence would only mislead.
     static_cast<RésuméWidget *>(résumé)->phrase.clear();
