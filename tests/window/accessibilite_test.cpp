@@ -1,8 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QCoreApplication>
 
 #include "platform/qt/fenetre/accessibilite.h"
+#include "platform/qt/fenetre/clavier.h"
+#include "platform/qt/fenetre/vue_controle.h"
 #include "table_essai.h"
 
 namespace {
@@ -16,70 +19,126 @@ QString Nom(Table &table, const Contrôle &c) {
   return i ? i->text(QAccessible::Name) : QString("(aucune interface)");
 }
 
+// A reader's press: posted, so it acts only once the event loop has a turn.
+void Presse(Table &table, const Contrôle &c) {
+  Interface(table, c)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+}
+
+QStringList NomsDesEnfants(QAccessibleInterface *parent) {
+  QStringList noms;
+  for (int i = 0; i < parent->childCount(); ++i) {
+    EXPECT_EQ(parent->indexOfChild(parent->child(i)), i);
+    noms << parent->child(i)->text(QAccessible::Name);
+  }
+  return noms;
+}
+
 } // namespace
 
 TEST(Accessibilité, LesCartesSeNommentEnFrançais) {
-  EXPECT_EQ(NomDeCarte(0), "deux de trèfle");
-  EXPECT_EQ(NomDeCarte(24), "roi de carreau");
-  EXPECT_EQ(NomDeCarte(34), "dix de cœur");
-  EXPECT_EQ(NomDeCarte(51), "as de pique");
+  EXPECT_EQ(QStringList({NomDeCarte(0), NomDeCarte(24), NomDeCarte(34), NomDeCarte(51)}),
+            QStringList({"deux de trèfle", "roi de carreau", "dix de cœur", "as de pique"}));
   EXPECT_EQ(NomDeCarte(54), "");
 }
 
-// What a screen reader finds on the table, read back through QAccessible.
-TEST(Accessibilité, LesContrôlesDonnentRôleEtNom) {
+// A whole deal as a reader follows it: the press returns before the search
+// runs, GO takes the focus, then the result's sentence does; every number
+// says whose it is.
+TEST(Accessibilité, UneDonneSeSuitÀLOreille) {
   Table table;
   auto &f = table.t.Fenêtre;
-  QAccessibleInterface *jouer = Interface(table, f.NouveauJeu);
-  ASSERT_NE(jouer, nullptr);
-  EXPECT_EQ(jouer->role(), QAccessible::Button);
-  EXPECT_EQ(jouer->text(QAccessible::Name), "JOUER");
-  EXPECT_EQ(Nom(table, f.Arrêt), "STOP");
-  EXPECT_EQ(Nom(table, f.VoirRègles[0]), "Règles du jeu");
-  EXPECT_TRUE(Interface(table, f.Joue)->state().invisible);
-  EXPECT_EQ(Interface(table, f.NiveauLabel[0])->role(), QAccessible::StaticText);
-  EXPECT_EQ(Nom(table, f.NiveauLabel[0]), "NIVEAU 3");
-  EXPECT_EQ(Nom(table, f.JoueursLabel[3]), "Bibi");
+  ASSERT_EQ(Interface(table, f.NouveauJeu)->role(), QAccessible::Button);
+  EXPECT_EQ(Nom(table, f.NouveauJeu), "JOUER");
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(&table.fenêtre)->text(QAccessible::Name),
+            "Trois Niveaux");
   EXPECT_EQ(Interface(table, f.TempsShape)->role(), QAccessible::ProgressBar);
   EXPECT_EQ(Nom(table, f.CartesJeu[39]), "carte cachée");
   EXPECT_TRUE(Interface(table, f.CartesJeu[39])->state().disabled);
 
-  // A press through the interface is a press on the button.
-  ASSERT_TRUE(jouer->actionInterface());
-  jouer->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  Presse(table, f.NouveauJeu);
+  EXPECT_FALSE(f.Joue.Visible || table.t.BalayageEnCours) << "the press waits for the loop";
+  QCoreApplication::processEvents();
   ASSERT_TRUE(f.Joue.Visible);
+  EXPECT_EQ(table.fenêtre.focusWidget(), table.Vue(f.Joue)) << "GO takes the focus";
   for (int k = 0; k <= 12; ++k) {
     const int niveau = k < 5 ? 1 : k < 10 ? 2 : 3;
     EXPECT_EQ(Nom(table, f.CartesJeu[39 + k]),
               NomDeCarte(table.t.Mains[4][k]) + ", niveau " + QString::number(niveau));
   }
   EXPECT_EQ(Nom(table, f.CartesJeu[0]), "carte cachée") << "the computer's cards are backs";
-  // The name follows the card when two places swap.
+  // A card picked up is checked until it is laid down; the name follows the card.
   const QString premier = Nom(table, f.CartesJeu[39]);
   table.Clic(f.CartesJeu[39]);
+  EXPECT_TRUE(Interface(table, f.CartesJeu[39])->state().checked);
+  EXPECT_EQ(Nom(table, f.CartesJeu[39]), premier + ", levée");
   table.Clic(f.CartesJeu[51]);
+  EXPECT_FALSE(Interface(table, f.CartesJeu[39])->state().checked);
   EXPECT_TRUE(Nom(table, f.CartesJeu[51]).startsWith(premier.section(',', 0, 0) + ", niveau 3"));
-  table.Clic(f.Joue);
-  EXPECT_NE(Nom(table, f.CartesJeu[0]), "carte cachée") << "all cards up after the showdown";
-  EXPECT_NE(Nom(table, f.ScoreLabel[0]), "");
+
+  Presse(table, f.Joue);
+  QCoreApplication::processEvents();
+  QWidget *résumé = table.fenêtre.Lecteur().Résumé();
+  ASSERT_EQ(table.fenêtre.focusWidget(), résumé);
+  const QString phrase = QAccessible::queryAccessibleInterface(résumé)->text(QAccessible::Name);
+  EXPECT_EQ(phrase, RésuméDeLaDonne(f));
+  EXPECT_TRUE(phrase.contains(", score " + Texte(f.ScoreLabel[3].Caption) + "."));
+  const std::pair<const Contrôle *, QString> nommés[] = {
+      {&f.SSJoueur[2], "MégaBytes"},
+      {&f.ScoreLabel[0], "score de MicroProc : "},
+      {&f.TotalLabel[3], "total de la donne de Bibi : "},
+      {&f.LabelPaie[22], "MégaBytes, niveau 2 contre GigaOctets : "},
+      {&f.LabelPaie[27], "Bibi, niveau 1 contre MicroProc : "},
+      {&f.EnchèreLabel[4], "GigaOctets, niveau 2 : "}};
+  for (const auto &[c, début] : nommés)
+    EXPECT_EQ(Nom(table, *c), début + Texte(c->Caption).simplified()) << c->Nom;
+
+  table.Clic(f.VoirOrdi[0]);
+  EXPECT_EQ(table.fenêtre.focusWidget(), résumé);
+  EXPECT_TRUE(QAccessible::queryAccessibleInterface(résumé)
+                  ->text(QAccessible::Name)
+                  .startsWith("Solution de l'ordinateur pour Bibi. Niveau 3 : "));
+  table.Clic(f.VoirOrdi[1]);
+  table.Clic(f.VoirRègles[0]);
+  EXPECT_EQ(table.fenêtre.focusWidget(), table.Vue(f.AfficheRègles)) << "the book is read";
+  EXPECT_EQ(Nom(table, f.TextCombien), "page 1 sur 14");
+  table.Clic(f.Rejoue);
+  EXPECT_EQ(table.fenêtre.focusWidget(), résumé) << "a replay's result is said too";
 }
 
-// What a reader must not offer: the OK under the book, a press on cards that
-// only show, and the window as a bare filler.
-TEST(Accessibilité, LeLecteurNeProposeQueCeQuiSeVoitEtAgit) {
+// The tree follows the table, not the stacking: seats in order, and in a
+// seat its name, its levels from the top (cards, class, payments), then its
+// total and score. The keyboard frame is no object: its card has the focus.
+// Not offered: the OK under the book, a press on cards that only show.
+TEST(Accessibilité, LaTableSeLitDansSonOrdreEtNOffreQueCeQuiAgit) {
   Table table;
   auto &f = table.t.Fenêtre;
-  EXPECT_EQ(QAccessible::queryAccessibleInterface(table.Vue(f.NouveauJeu)->window())->role(),
-            QAccessible::Window);
   EXPECT_TRUE(Interface(table, f.VoirRègles[1])->state().invisible);
   EXPECT_FALSE(Interface(table, f.VoirRègles[0])->state().invisible);
   table.Clic(f.VoirRègles[0]);
   EXPECT_FALSE(Interface(table, f.VoirRègles[1])->state().invisible);
   table.Clic(f.VoirRègles[1]);
+  table.Touche(Qt::Key_F2);
+  table.Touche(Qt::Key_Right);
+  QAccessibleInterface *fond = QAccessible::queryAccessibleInterface(&table.fenêtre)->child(0);
+  const QStringList hauts = NomsDesEnfants(fond);
+  const qsizetype sièges[] = {hauts.indexOf("MicroProc"), hauts.indexOf("GigaOctets"),
+                              hauts.indexOf("MégaBytes"), hauts.indexOf("Bibi"),
+                              hauts.indexOf("Menu")};
+  EXPECT_TRUE(std::is_sorted(std::begin(sièges), std::end(sièges)) && sièges[0] >= 0)
+      << hauts.join('|').toStdString();
+  EXPECT_EQ(NomsDesEnfants(Interface(table, f.SSJoueur[3])),
+            QStringList({"Bibi", "", "jeu de Bibi", "", "score de Bibi : 0"}));
+  const QStringList jeu = NomsDesEnfants(Interface(table, f.SSJoueurFond[3]));
+  ASSERT_EQ(jeu.size(), 13 + 3 + 3 + 1) << "the frame is not read";
+  EXPECT_TRUE(jeu[0].endsWith("niveau 3") && jeu[5].endsWith("niveau 2"));
+  EXPECT_EQ(jeu[4], "paiements de Bibi au niveau 3");
 
-  Interface(table, f.NouveauJeu)
-      ->actionInterface()
-      ->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_TRUE(Interface(table, f.CartesJeu[39])->state().focused);
+  table.Touche(Qt::Key_Right);
+  EXPECT_FALSE(Interface(table, f.CartesJeu[39])->state().focused);
+  EXPECT_TRUE(Interface(table, f.CartesJeu[40])->state().focused);
+  table.Touche(Qt::Key_Space);
+  EXPECT_TRUE(Interface(table, f.CartesJeu[40])->state().checked);
   const auto presse = [&](const Contrôle &c) {
     return Interface(table, c)->actionInterface()->actionNames().contains(
         QAccessibleActionInterface::pressAction());
@@ -87,4 +146,6 @@ TEST(Accessibilité, LeLecteurNeProposeQueCeQuiSeVoitEtAgit) {
   EXPECT_TRUE(presse(f.CartesJeu[39]));
   EXPECT_FALSE(presse(f.CartesJeu[0])) << "a computer's card answers no release";
   EXPECT_FALSE(presse(f.CartesJeu[52]));
+  f.TempsShape.Left = -(f.TempsShape.Width - 15) / 4;
+  EXPECT_EQ(Interface(table, f.TempsShape)->valueInterface()->currentValue().toInt(), 75);
 }

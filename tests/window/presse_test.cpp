@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QElapsedTimer>
 #include <QTest>
 #include <QTimer>
@@ -27,9 +28,9 @@ Issue Relève(const TroisNiveaux &t) {
 } // namespace
 
 // A deal played flat out, then replayed at the paced speed (32 s in
-// DEBUTANT) and hurried, once by Entrée and once by a click on the bar: the
-// replay ends long before its pace, with the same rows kept and the same
-// payments, and its showdown follows as usual.
+// DEBUTANT) and hurried, by Entrée, by a click on the bar and by a screen
+// reader's action on it: the replay ends long before its pace, with the same
+// rows kept and the same payments, and its showdown follows as usual.
 TEST(Presse, LaRechercheFinitTôtAvecLeMêmeRésultat) {
   Table table;
   auto &f = table.t.Fenêtre;
@@ -39,20 +40,24 @@ TEST(Presse, LaRechercheFinitTôtAvecLeMêmeRésultat) {
   ASSERT_GT(attendue.rangées[3], 0) << "DEBUTANT searches the human's cards too";
 
   table.plateforme.duréeParSiège = 8;
-  for (const bool parLaBarre : {false, true}) {
+  for (const int façon : {0, 1, 2}) {
     QTimer::singleShot(300, [&] {
       ASSERT_TRUE(table.t.BalayageEnCours);
       EXPECT_FALSE(f.Joue.Visible);
-      if (parLaBarre)
+      if (façon == 0)
+        table.Touche(Qt::Key_Return);
+      else if (façon == 1)
         table.Clic(f.TempsFondSS);
       else
-        table.Touche(Qt::Key_Return);
-      EXPECT_TRUE(table.plateforme.pressé);
+        QAccessible::queryAccessibleInterface(table.Vue(f.TempsShape))
+            ->actionInterface()
+            ->doAction("hurry");
     });
     QElapsedTimer chrono;
     chrono.start();
     table.Clic(f.Rejoue);
     EXPECT_LT(chrono.elapsed(), 16000) << "half the paced time at the most";
+    EXPECT_TRUE(table.plateforme.pressé) << façon;
     EXPECT_TRUE(f.VoirOrdi[0].Visible) << "the replay's showdown followed";
     const Issue issue = Relève(table.t);
     EXPECT_EQ(issue.rangées, attendue.rangées);

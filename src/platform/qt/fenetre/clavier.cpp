@@ -20,6 +20,8 @@ public:
   CadreClavier(const double &échelle, QWidget *parent) : QWidget(parent), échelle(échelle) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setProperty("tnHorsEchelle", true);
+    // The focus of the card under it says all a reader needs.
+    setProperty("tnHorsLecture", true);
     hide();
   }
 

@@ -37,6 +37,7 @@ FenêtreTable::FenêtreTable(TroisNiveaux &table, PlateformeQt &plateforme)
   });
   PanneauHistorique *historique = InstalleHistorique(this, t);
   clavier->AjoutePanneau(historique, Qt::Key_F9, [historique] { historique->Bascule(); });
+  lecteur = std::make_unique<SuiviLecteur>(*this, t);
   // The window holds the keyboard at first, not JOUER: Espace and the arrows
   // then go to the cards, and Tab reaches JOUER first.
   setFocus(Qt::OtherFocusReason);
@@ -204,11 +205,15 @@ void FenêtreTable::Relie() {
 
 void FenêtreTable::Synchronise() {
   const bool premier = !isVisible() && vues.front()->copie.Nom.empty();
+  if (lecteur)
+    lecteur->AvantSynchronisation();
   for (VueContrôle *v : vues)
     v->Applique(premier);
   SynchroniseMinuteries();
   if (clavier)
     clavier->AprèsSynchronisation();
+  if (lecteur)
+    lecteur->AprèsSynchronisation();
 }
 
 void FenêtreTable::SynchroniseMinuteries() {

@@ -10,6 +10,7 @@
 #include <QTimer>
 #include <QWidget>
 #include <functional>
+#include <memory>
 #include <vector>
 
 #include "table/controles.h"
@@ -19,6 +20,7 @@ class PlateformeQt;
 class VueContrôle;
 class FondÉtoilé;
 class Clavier;
+class SuiviLecteur;
 
 class FenêtreTable : public QWidget {
 public:
@@ -45,6 +47,8 @@ public:
   // again when the window goes.
   void RetrouveTaille();
   Clavier &Touches() const { return *clavier; }
+  TroisNiveaux &Table() const { return t; }
+  SuiviLecteur &Lecteur() const { return *lecteur; }
 
 protected:
   void closeEvent(QCloseEvent *event) override;
@@ -65,6 +69,7 @@ private:
   std::vector<VueContrôle *> vues;
   QHash<const Contrôle *, VueContrôle *> vueDe;
   Clavier *clavier = nullptr;
+  std::unique_ptr<SuiviLecteur> lecteur;
   QTimer étoiles, temps, nonConnecté;
   bool fermé = false;
   bool mémoriseTaille = false;

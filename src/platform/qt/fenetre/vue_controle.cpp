@@ -11,6 +11,7 @@
 #include <cmath>
 
 #include "files/format.h"
+#include "platform/qt/fenetre/accessibilite.h"
 #include "platform/qt/fenetre/images.h"
 
 int Pixels(int twips, double échelle) {
@@ -111,14 +112,10 @@ void VueContrôle::Applique(bool premier) {
     saisie->setPalette(palette);
     saisie->setFont(PoliceQt(m.police, échelle));
   }
-  if (aspect) {
+  if (aspect)
     update();
-    if (!premier && QAccessible::isActive() &&
-        (m.Caption != copie.Caption || m.Picture != copie.Picture)) {
-      QAccessibleEvent nom(this, QAccessible::NameChanged);
-      QAccessible::updateAccessibility(&nom);
-    }
-  }
+  if (!premier)
+    SignaleAuLecteur(this, copie);
   if (premier || m.Visible != copie.Visible) {
     setVisible(m.Visible);
     // The notice rises above every panel so its OK can be reached.
