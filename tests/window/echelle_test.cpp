@@ -1,9 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <QImage>
-#include <QLabel>
 #include <QTest>
 #include <cmath>
+#include <tuple>
+#include <vector>
 
 #include "platform/qt/fenetre/images.h"
 #include "table_essai.h"
@@ -104,22 +105,56 @@ TEST(Échelle, LesCartesSontDessinéesÀLaTailleFinale) {
   EXPECT_TRUE(montré.copy(zone) == attendu.copy(zone));
 }
 
-// A widget that another part of the game lays in a panel at the designed
-// size (the advert pages) follows the scale, its text too.
-TEST(Échelle, UnePageDansSonPanneauSuitLÉchelle) {
-  Table table;
-  auto *page = new QLabel("Trois Niveaux", table.Vue(table.t.Fenêtre.Pub0Pic));
-  QFont police = page->font();
-  police.setPixelSize(14);
-  page->setFont(police);
-  page->setGeometry(10, 20, 100, 30);
-  page->show();
-  Redimensionne(table, {2048, 1536});
-  EXPECT_EQ(page->geometry(), QRect(20, 40, 200, 60));
-  EXPECT_EQ(page->font().pixelSize(), 28);
-  Redimensionne(table, {1024, 768});
-  EXPECT_EQ(page->geometry(), QRect(10, 20, 100, 30));
-  EXPECT_EQ(page->font().pixelSize(), 14);
+// The window as the window system has it drawn, at 1024 x 768 whatever its
+// size, in blocks of 32 x 32 pixels: the mean colour of each.
+std::vector<QColor> Blocs(QWidget &fenêtre) {
+  const QImage image = fenêtre.grab().toImage().convertToFormat(QImage::Format_RGB32).scaled(
+      1024, 768, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  std::vector<QColor> blocs;
+  for (int y = 0; y < 768; y += 32)
+    for (int x = 0; x < 1024; x += 32) {
+      const QImage bloc = image.copy(x, y, 32, 32).scaled(1, 1, Qt::IgnoreAspectRatio,
+                                                           Qt::SmoothTransformation);
+      blocs.push_back(bloc.pixelColor(0, 0));
+    }
+  return blocs;
+}
+
+// A player grows the window: the advert pages and the notice's logo zoom by
+// the table's factor, so the table at 2048 x 1536 brought back to 1024 x 768
+// is the table at 1024 x 768, region by region, panels included.
+TEST(Échelle, LesPanneauxGrandissentAvecLaFenêtre) {
+  Table table(true);
+  auto &f = table.t.Fenêtre;
+  f.EtoilesTimer.Enabled = false; // the stars hold still between the shots
+  f.NonConnectéPic.Visible = true;
+  table.plateforme.Navigue(VueWeb::LogoWeb, "logomdc200.htm");
+  table.fenêtre.Synchronise();
+  QTest::qWait(50);
+  const std::vector<QColor> petit = Blocs(table.fenêtre);
+
+  table.fenêtre.windowHandle()->resize(2048, 1536);
+  QTRY_COMPARE(table.fenêtre.size(), QSize(2048, 1536));
+  ASSERT_EQ(table.fenêtre.Échelle(), 2.0);
+  const std::pair<VueWeb, QRect> vues[] = {{VueWeb::Pub0Web, QRect(0, 28, 1632, 314)},
+                                            {VueWeb::Pub1Web, QRect(38, 0, 448, 1574)},
+                                            {VueWeb::LogoWeb, QRect(0, 0, 452, 120)}};
+  for (const auto &[nom, géométrie] : vues) {
+    QWidget *vue = table.plateforme.pages->Vue(nom);
+    ASSERT_NE(vue, nullptr);
+    EXPECT_EQ(vue->geometry(), géométrie);
+    EXPECT_EQ(vue->property("zoomFactor").toDouble(), 2.0) << "the page's text grows too";
+  }
+  const std::vector<QColor> grand = Blocs(table.fenêtre);
+  int pire = 0, où = 0;
+  for (size_t i = 0; i < petit.size(); ++i) {
+    const int écart = std::max({std::abs(petit[i].red() - grand[i].red()),
+                                std::abs(petit[i].green() - grand[i].green()),
+                                std::abs(petit[i].blue() - grand[i].blue())});
+    if (écart > pire)
+      std::tie(pire, où) = std::make_pair(écart, static_cast<int>(i));
+  }
+  EXPECT_LE(pire, 24) << "block at " << où % 32 * 32 << ", " << où / 32 * 32;
 }
 
 // The stars fall on the grown table at grown places, and grown themselves.
