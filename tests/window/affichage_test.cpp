@@ -14,6 +14,24 @@
 #include "platform/qt/bureau/affichage.h"
 #include "platform/sans_fenetre.h"
 
+// Where the table, frame included, does not fit the screen's free area, the
+// window is the largest of the same proportions that fits.
+TEST(Affichage, LaFenêtreTientDansLÉcranLibre) {
+  const struct {
+    QSize libre;
+    QMargins cadre;
+    QSize attendue;
+  } cas[] = {{{1920, 1050}, {0, 37, 0, 0}, {1024, 768}},
+             {{1024, 768}, {}, {1024, 768}},
+             {{1366, 740}, {0, 37, 0, 0}, {937, 703}}, // a laptop, its title bar and panel
+             {{1024, 768}, {4, 30, 4, 4}, {978, 734}},
+             {{1366, 700}, {}, {933, 700}},
+             {{800, 600}, {}, {800, 600}},
+             {{640, 1024}, {}, {640, 480}}};
+  for (const auto &c : cas)
+    EXPECT_EQ(TailleQuiTient({1024, 768}, c.libre, c.cadre), c.attendue) << c.libre.width();
+}
+
 #ifdef TN_XRANDR
 #include <X11/Xlib.h>
 #include <X11/extensions/Xrandr.h>
@@ -183,6 +201,8 @@ TEST(AffichageX11, RienNeChangeQuandRienNEstÀChangerOuQueLaTailleManque) {
   EXPECT_TRUE(AppliqueModeX11({1024, 768, 24, 144, 0}, écran.nom.c_str()));
   EXPECT_EQ(écran.Taille(), std::make_pair(1024, 768));
   EXPECT_FALSE(LitModeX11(":4095")) << "no display there";
+  EXPECT_TRUE(ModeX11Offert(1024, 768, écran.nom.c_str()));
+  EXPECT_FALSE(ModeX11Offert(800, 600, écran.nom.c_str())) << "no dialog for a mode not there";
 }
 
 #ifdef TN_PILOTE_AFFICHAGE

@@ -9,6 +9,7 @@
 
 #include "core/table_state.h"
 #include "dossier_essai.h"
+#include "platform/qt/bureau/affichage.h"
 #include "platform/qt/panneaux/dialogue_resolution.h"
 #include "platform/qt/fenetre/fenetre_table.h"
 #include "platform/qt/fenetre/plateforme_qt.h"
@@ -97,4 +98,26 @@ TEST(Avis, LeDialogueDuModeDAffichageASesBoutonsUnisEtSonLogoDécalé) {
     EXPECT_EQ(coins[0][k], QColor(0xC0, 0xFF, 0xC0)) << "point " << k;
     EXPECT_EQ(coins[1][k], QColor(0xFF, 0xC0, 0xC0)) << "point " << k;
   }
+}
+
+// A screen too low where no 1024 x 768 mode can be set (not X11, or no such
+// mode): no dialog promises a change, the session starts.
+TEST(Avis, SansModeÀRéglerAucunDialogue) {
+  if (ModeRéglable(1024, 768))
+    GTEST_SKIP() << "this screen can be set to 1024 x 768";
+  struct Plateforme : PlateformeQt {
+    void EnumDisplaySettings(EnregistrementAffichage &e) override { e = {1024, 600, 24, 60, 0}; }
+  } plateforme;
+  bool dialogue = false;
+  QTimer::singleShot(0, [&] {
+    if (QWidget *vu = QApplication::activeModalWidget()) {
+      dialogue = true;
+      vu->close();
+    }
+  });
+  TroisNiveaux t(plateforme);
+  t.VérifieRésolution();
+  QTest::qWait(20);
+  EXPECT_FALSE(dialogue);
+  EXPECT_FALSE(t.DémarrageRefusé);
 }
