@@ -15,6 +15,7 @@ export TN_PAQUETS_EN_PLUS=paquets-verification.txt
 # The window tests once more on a virtual X screen with no window manager,
 # where no window is made active by itself.
 (cd "$racine/build" && xvfb-run -a -s "-screen 0 1280x1024x24" ./troisniveaux-tests-fenetre --gtest_brief=1)
+"$racine/scripts/verifier-wayland.sh" "$racine/build"
 
 "$racine/scripts/installation.sh" "$racine/build"
 
