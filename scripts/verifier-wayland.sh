@@ -40,7 +40,7 @@ fi
 export WAYLAND_DISPLAY=tn-wayland QT_QPA_PLATFORM=wayland
 unset DISPLAY
 "$construction/troisniveaux-tests-fenetre" --gtest_brief=1 \
-  --gtest_filter='Fenêtre.UneSessionAuComplet:Fenêtre.QuitterOuFermerPendantLeBalayageFinitLaSession:Échelle.LesPanneauxGrandissentAvecLaFenêtre:Échelle.LaFenêtreRouvre*:Avis.SansModeÀRéglerAucunDialogue'
+  --gtest_filter='Fenêtre.UneSessionAuComplet:Fenêtre.QuitterOuFermerPendantLeBalayageFinitLaSession:Échelle.LaTableGrandiEnEntierAuMilieuDuNoir:Échelle.LaFenêtreRouvre*:Avis.SansModeÀRéglerAucunDialogue'
 
 # The game as a player starts it, in a home of its own; SIGTERM ends the
 # session the game's own way (status 128 + 15).

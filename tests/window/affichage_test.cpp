@@ -6,6 +6,7 @@
 #include <csignal>
 #include <cstring>
 #include <optional>
+#include <tuple>
 #include <sys/types.h>
 
 #include "dossier_essai.h"
@@ -15,21 +16,14 @@
 #include "platform/sans_fenetre.h"
 
 // Where the table, frame included, does not fit the screen's free area, the
-// window is the largest of the same proportions that fits.
+// window is the largest of the same proportions that fits: free area, frame,
+// size (a laptop of 1366 x 768 with its panel and title bar, third).
 TEST(Affichage, LaFenêtreTientDansLÉcranLibre) {
-  const struct {
-    QSize libre;
-    QMargins cadre;
-    QSize attendue;
-  } cas[] = {{{1920, 1050}, {0, 37, 0, 0}, {1024, 768}},
-             {{1024, 768}, {}, {1024, 768}},
-             {{1366, 740}, {0, 37, 0, 0}, {937, 703}}, // a laptop, its title bar and panel
-             {{1024, 768}, {4, 30, 4, 4}, {978, 734}},
-             {{1366, 700}, {}, {933, 700}},
-             {{800, 600}, {}, {800, 600}},
-             {{640, 1024}, {}, {640, 480}}};
-  for (const auto &c : cas)
-    EXPECT_EQ(TailleQuiTient({1024, 768}, c.libre, c.cadre), c.attendue) << c.libre.width();
+  for (const auto &[libre, cadre, attendue] : {std::tuple<QSize, QMargins, QSize>{
+           {1920, 1050}, {0, 37, 0, 0}, {1024, 768}}, {{1024, 768}, {}, {1024, 768}},
+       {{1366, 740}, {0, 37, 0, 0}, {937, 703}}, {{1024, 768}, {4, 30, 4, 4}, {978, 734}},
+       {{1366, 700}, {}, {933, 700}}, {{640, 1024}, {}, {640, 480}}})
+    EXPECT_EQ(TailleQuiTient({1024, 768}, libre, cadre), attendue) << libre.width();
 }
 
 #ifdef TN_XRANDR
