@@ -6,8 +6,8 @@
 #include <csignal>
 #include <cstring>
 #include <optional>
-#include <tuple>
 #include <sys/types.h>
+#include <tuple>
 
 #include "dossier_essai.h"
 
@@ -19,10 +19,13 @@
 // window is the largest of the same proportions that fits: free area, frame,
 // size (a laptop of 1366 x 768 with its panel and title bar, third).
 TEST(Affichage, LaFenêtreTientDansLÉcranLibre) {
-  for (const auto &[libre, cadre, attendue] : {std::tuple<QSize, QMargins, QSize>{
-           {1920, 1050}, {0, 37, 0, 0}, {1024, 768}}, {{1024, 768}, {}, {1024, 768}},
-       {{1366, 740}, {0, 37, 0, 0}, {937, 703}}, {{1024, 768}, {4, 30, 4, 4}, {978, 734}},
-       {{1366, 700}, {}, {933, 700}}, {{640, 1024}, {}, {640, 480}}})
+  for (const auto &[libre, cadre, attendue] :
+       {std::tuple<QSize, QMargins, QSize>{{1920, 1050}, {0, 37, 0, 0}, {1024, 768}},
+        {{1024, 768}, {}, {1024, 768}},
+        {{1366, 740}, {0, 37, 0, 0}, {937, 703}},
+        {{1024, 768}, {4, 30, 4, 4}, {978, 734}},
+        {{1366, 700}, {}, {933, 700}},
+        {{640, 1024}, {}, {640, 480}}})
     EXPECT_EQ(TailleQuiTient({1024, 768}, libre, cadre), attendue) << libre.width();
 }
 

@@ -4,8 +4,8 @@
 #include <QScreen>
 #include <QTest>
 #include <QTextBrowser>
-#include <tuple>
 #include <cmath>
+#include <tuple>
 
 #include "platform/qt/fenetre/images.h"
 #include "table_essai.h"

@@ -1,10 +1,10 @@
 #include "platform/qt/panneaux/vue_texte.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QFile>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QNetworkRequest>
-#include <QAbstractTextDocumentLayout>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPointer>
