@@ -275,9 +275,10 @@ void FenêtreTable::RetrouveTaille() {
     restoreGeometry(géométrie);
   const QSize voulue = size();
   TientDansLÉcran(voulue);
-  // The frame's true size is known once the window stands on the screen.
-  QTimer::singleShot(500, this, [this, voulue] {
-    if (isVisible())
+  // The frame's true size is known once the window stands on the screen; a
+  // size the player has set meanwhile is left alone.
+  QTimer::singleShot(500, this, [this, voulue, ajustée = size()] {
+    if (isVisible() && size() == ajustée)
       TientDansLÉcran(voulue);
   });
 }
