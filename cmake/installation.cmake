@@ -87,8 +87,9 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_HOMEPAGE ${TN_ADRESSE_PROJET})
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-liberation2")
-# Debian's card decks, drawn by the game when present.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "kdegames-card-data-kf5")
+# Debian's card decks, drawn by the game when present; Qt's Wayland plugin,
+# without which a Wayland session runs the game through XWayland.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "kdegames-card-data-kf5, qt6-wayland")
 set(CPACK_STRIP_FILES ON)
 set(CPACK_SET_DESTDIR OFF)
 include(CPack)

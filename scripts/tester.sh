@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds with warnings as errors and runs every
-# test, the window tests once more on a virtual X screen; checks the game as
-# installed for every user and as a Debian package; then runs the tests
-# again in a build with AddressSanitizer and UndefinedBehaviorSanitizer.
+# test, the window tests once more on a virtual X screen and some on a
+# Wayland compositor; checks the game as installed for every user and as a
+# Debian package; then runs the tests again in a build with AddressSanitizer
+# and UndefinedBehaviorSanitizer.
 set -euo pipefail
 racine=$(cd "$(dirname "$0")/.." && pwd)
 export TN_PAQUETS_EN_PLUS=paquets-verification.txt
@@ -16,6 +17,7 @@ export TN_PAQUETS_EN_PLUS=paquets-verification.txt
 # where no window is made active by itself.
 (cd "$racine/build" && xvfb-run -a -s "-screen 0 1280x1024x24" ./troisniveaux-tests-fenetre --gtest_brief=1)
 "$racine/scripts/verifier-lecteur-ecran.sh" "$racine/build"
+"$racine/scripts/verifier-wayland.sh" "$racine/build"
 
 "$racine/scripts/installation.sh" "$racine/build"
 

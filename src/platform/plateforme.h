@@ -46,7 +46,7 @@ public:
   virtual void EnumDisplaySettings(EnregistrementAffichage &enregistrement) = 0;
   virtual void ChangeDisplaySettings(const EnregistrementAffichage &enregistrement) = 0;
   // Shows the dialog that asks leave to change the display mode; true when
-  // the player agrees.
+  // the player agrees, or when no change can be had and nothing is asked.
   virtual bool DemandeChangementRésolution() = 0;
 
   // Whether the machine is on line.

@@ -7,12 +7,27 @@
 #include <cstring>
 #include <optional>
 #include <sys/types.h>
+#include <tuple>
 
 #include "dossier_essai.h"
 
 #include "core/table_state.h"
 #include "platform/qt/bureau/affichage.h"
 #include "platform/sans_fenetre.h"
+
+// Where the table, frame included, does not fit the screen's free area, the
+// window is the largest of the same proportions that fits: free area, frame,
+// size (a laptop of 1366 x 768 with its panel and title bar, third).
+TEST(Affichage, LaFenêtreTientDansLÉcranLibre) {
+  for (const auto &[libre, cadre, attendue] :
+       {std::tuple<QSize, QMargins, QSize>{{1920, 1050}, {0, 37, 0, 0}, {1024, 768}},
+        {{1024, 768}, {}, {1024, 768}},
+        {{1366, 740}, {0, 37, 0, 0}, {937, 703}},
+        {{1024, 768}, {4, 30, 4, 4}, {978, 734}},
+        {{1366, 700}, {}, {933, 700}},
+        {{640, 1024}, {}, {640, 480}}})
+    EXPECT_EQ(TailleQuiTient({1024, 768}, libre, cadre), attendue) << libre.width();
+}
 
 #ifdef TN_XRANDR
 #include <X11/Xlib.h>
@@ -183,6 +198,8 @@ TEST(AffichageX11, RienNeChangeQuandRienNEstÀChangerOuQueLaTailleManque) {
   EXPECT_TRUE(AppliqueModeX11({1024, 768, 24, 144, 0}, écran.nom.c_str()));
   EXPECT_EQ(écran.Taille(), std::make_pair(1024, 768));
   EXPECT_FALSE(LitModeX11(":4095")) << "no display there";
+  EXPECT_TRUE(ModeX11Offert(1024, 768, écran.nom.c_str()));
+  EXPECT_FALSE(ModeX11Offert(800, 600, écran.nom.c_str())) << "no dialog for a mode not there";
 }
 
 #ifdef TN_PILOTE_AFFICHAGE

@@ -7,11 +7,9 @@
 #include <QTest>
 #include <QTimer>
 
-#include "core/table_state.h"
-#include "dossier_essai.h"
+#include "platform/qt/bureau/affichage.h"
 #include "platform/qt/panneaux/dialogue_resolution.h"
-#include "platform/qt/fenetre/fenetre_table.h"
-#include "platform/qt/fenetre/plateforme_qt.h"
+#include "table_essai.h"
 
 namespace {
 
@@ -30,22 +28,10 @@ std::pair<int, int> ÉtendueDuTexte(const QImage &image) {
 } // namespace
 
 TEST(Avis, LeMessageHorsLigneTientEntierDansSonÉtiquette) {
-  DossierEssai dossier;
-  struct Plateforme : PlateformeQt {
-    std::string dossier;
-    std::string DossierDesDonnées() override { return dossier; }
-  } plateforme;
-  plateforme.dossier = dossier.Chemin();
-  plateforme.dialogues = false;
-  TroisNiveaux t(plateforme);
-  FenêtreTable fenêtre(t, plateforme);
-  t.Form_Load();
-  t.Fenêtre.NonConnectéPic.Visible = true;
-  fenêtre.Synchronise();
-  fenêtre.show();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&fenêtre));
-
-  QWidget *étiquette = fenêtre.Vue(t.Fenêtre.NonConnectéLbl);
+  Table table;
+  table.t.Fenêtre.NonConnectéPic.Visible = true;
+  table.fenêtre.Synchronise();
+  QWidget *étiquette = table.Vue(table.t.Fenêtre.NonConnectéLbl);
   ASSERT_EQ(étiquette->width(), 385);
   const QImage image = étiquette->grab().toImage().scaled(étiquette->size());
   const auto [gauche, droite] = ÉtendueDuTexte(image);
@@ -97,4 +83,18 @@ TEST(Avis, LeDialogueDuModeDAffichageASesBoutonsUnisEtSonLogoDécalé) {
     EXPECT_EQ(coins[0][k], QColor(0xC0, 0xFF, 0xC0)) << "point " << k;
     EXPECT_EQ(coins[1][k], QColor(0xFF, 0xC0, 0xC0)) << "point " << k;
   }
+}
+
+// A screen too low where no 1024 x 768 mode can be set (not X11, or no such
+// mode): no dialog promises a change, the session goes on.
+TEST(Avis, SansModeÀRéglerAucunDialogue) {
+  if (ModeRéglable(1024, 768))
+    GTEST_SKIP() << "this screen can be set to 1024 x 768";
+  bool dialogue = false;
+  QTimer::singleShot(0, [&] {
+    if (QWidget *vu = QApplication::activeModalWidget())
+      dialogue = vu->close();
+  });
+  EXPECT_TRUE(PlateformeQt().DemandeChangementRésolution());
+  EXPECT_FALSE(dialogue);
 }

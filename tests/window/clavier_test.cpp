@@ -15,6 +15,8 @@ TEST(Clavier, UnÉchangeAuClavierVautUnÉchangeÀLaSouris) {
   Table table;
   auto &f = table.t.Fenêtre;
   Clavier &clavier = table.fenêtre.Touches();
+  table.Touche(Qt::Key_Right);
+  EXPECT_FALSE(clavier.CadreVisible()) << "no frame on cards face down";
   table.Touche(Qt::Key_F2);
   ASSERT_TRUE(f.Joue.Visible);
   EXPECT_FALSE(clavier.CadreVisible());
@@ -76,19 +78,25 @@ TEST(Clavier, UnÉchangeAuClavierVautUnÉchangeÀLaSouris) {
   table.Touche(Qt::Key_Space);
   table.Touche(Qt::Key_Space);
   EXPECT_EQ(table.t.CarteLevée, 0);
+  EXPECT_FALSE(clavier.CadreVisible()) << "no frame on cards that are not live";
 }
 
-// Tab and Maj+Tab walk the live buttons in the menu's order, skipping what
-// is hidden or off; Espace presses the one reached.
+// Tab and Maj+Tab walk the live buttons as the menu reads, top to bottom and
+// then the pictures, skipping what is hidden or off; Espace presses the one
+// reached.
 TEST(Clavier, TabParcourtLesBoutonsActifs) {
   Table table;
   auto &f = table.t.Fenêtre;
-  table.Touche(Qt::Key_Tab);
-  EXPECT_EQ(table.fenêtre.focusWidget(), table.Vue(f.NouveauJeu));
-  table.Touche(Qt::Key_Tab);
-  EXPECT_EQ(table.fenêtre.focusWidget(), table.Vue(f.Arrêt)) << "GO is hidden";
-  table.Touche(Qt::Key_Tab, Qt::ShiftModifier);
-  EXPECT_EQ(table.fenêtre.focusWidget(), table.Vue(f.NouveauJeu));
+  const Contrôle *ordre[] = {&f.NouveauJeu, &f.Scoresà0, &f.NomsJoueurs, &f.Mode,
+                             &f.Rejoue,     &f.Arrêt,    &f.Fin,         &f.VoirRègles[0]};
+  for (const Contrôle *c : ordre) {
+    table.Touche(Qt::Key_Tab);
+    EXPECT_EQ(table.fenêtre.focusWidget(), table.Vue(*c)) << c->Nom;
+  }
+  for (int i = 6; i >= 0; --i) {
+    table.Touche(Qt::Key_Tab, Qt::ShiftModifier);
+    EXPECT_EQ(table.fenêtre.focusWidget(), table.Vue(*ordre[i])) << ordre[i]->Nom;
+  }
   QTest::keyClick(table.fenêtre.focusWidget(), Qt::Key_Space);
   EXPECT_TRUE(f.Joue.Visible) << "Espace pressed JOUER";
   std::set<QWidget *> atteints;

@@ -12,6 +12,7 @@
 #include "dossier_essai.h"
 #include "platform/qt/fenetre/fenetre_table.h"
 #include "platform/qt/fenetre/plateforme_qt.h"
+#include "platform/qt/panneaux/pages_web.h"
 
 struct Table {
   DossierEssai dossier;
@@ -22,15 +23,22 @@ struct Table {
   TroisNiveaux t{plateforme};
   FenêtreTable fenêtre{t, plateforme};
 
-  Table() {
+  // `pages`: the game's own pages in their panels, as the game shows them.
+  explicit Table(bool pages = false) {
     plateforme.dossier = dossier.Chemin();
     plateforme.dialogues = false;
     plateforme.duréeParSiège = 0;
+    if (pages) {
+      PagesWeb::DéfinitDossierLocal(TN_DOSSIER_DONNEES);
+      plateforme.pages = std::make_unique<PagesWeb>(Vue(t.Fenêtre.Pub0Pic), Vue(t.Fenêtre.Pub1Pic),
+                                                    Vue(t.Fenêtre.LogoFondPic));
+    }
     t.Form_Load();
     fenêtre.Synchronise();
     fenêtre.show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&fenêtre));
   }
+  ~Table() { PagesWeb::DéfinitDossierLocal(""); }
   QWidget *Vue(const Contrôle &c) { return fenêtre.Vue(c); }
   void Clic(const Contrôle &c) { QTest::mouseClick(Vue(c), Qt::LeftButton); }
   QColor Pixel(const Contrôle &c, QPoint où) {

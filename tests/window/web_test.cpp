@@ -86,41 +86,6 @@ TEST(PagesWeb, SeulsLeServeurConfiguréEtLeLogoLocalSontPermis) {
 
 #ifndef TN_WEBENGINE
 
-// The shipped pages, drawn by Qt's rich text: each is in its view at once and
-// fits its panel without scrolling, and nothing of theirs is refused.
-TEST(PagesWeb, LesPagesDuJeuTiennentDansLeursPanneaux) {
-  BaseEssai base("");
-  PagesWeb::DéfinitDossierLocal(TN_DOSSIER_DONNEES);
-  QWidget pub0, pub1, logo;
-  PagesWeb pages(&pub0, &pub1, &logo);
-  const int refuséesAvant = PagesWeb::Refusées();
-  pages.Navigue(VueWeb::Pub0Web, "pub0.htm");
-  pages.Navigue(VueWeb::Pub1Web, "pub1.htm");
-  pages.Navigue(VueWeb::LogoWeb, "logomdc200.htm");
-  const struct {
-    VueWeb vue;
-    QWidget *panneau;
-    QRect géométrie;
-    const char *texte;
-  } attendus[] = {{VueWeb::Pub0Web, &pub0, QRect(0, 14, 816, 157), "Bonne partie !"},
-                  {VueWeb::Pub1Web, &pub1, QRect(19, 0, 224, 787), "MAINS SPÉCIALES"},
-                  {VueWeb::LogoWeb, &logo, QRect(0, 0, 226, 60), "Trois Niveaux"}};
-  for (const auto &a : attendus) {
-    auto *vue = qobject_cast<QTextBrowser *>(pages.Vue(a.vue));
-    ASSERT_NE(vue, nullptr) << a.texte;
-    EXPECT_EQ(vue->parentWidget(), a.panneau);
-    EXPECT_EQ(vue->geometry(), a.géométrie);
-    EXPECT_TRUE(vue->testAttribute(Qt::WA_TransparentForMouseEvents));
-    EXPECT_EQ(vue->focusPolicy(), Qt::NoFocus);
-    EXPECT_TRUE(vue->toPlainText().contains(a.texte)) << a.texte;
-    vue->document()->setTextWidth(vue->viewport()->width());
-    EXPECT_LE(vue->document()->size().height(), a.géométrie.height() + 0.5) << a.texte;
-  }
-  pub0.show();
-  QTest::qWait(50); // laid out and painted: the band's picture is read then
-  EXPECT_EQ(PagesWeb::Refusées(), refuséesAvant);
-}
-
 TEST(PagesWeb, LaPageVientDuServeurSansAutreHôteNiRedirection) {
   Serveur serveur, ailleurs;
   ASSERT_TRUE(serveur.isListening());

@@ -1,7 +1,9 @@
 #include "platform/qt/bureau/affichage.h"
 
+#include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <QScreen>
+#include <algorithm>
 
 #ifdef TN_XRANDR
 #include <X11/Xlib.h>
@@ -123,6 +125,38 @@ bool AppliqueModeX11(const EnregistrementAffichage &e, const char *nomAffichage)
 #endif
 }
 
+bool ModeX11Offert(int largeur, int hauteur, const char *nomAffichage) {
+#ifdef TN_XRANDR
+  ConfigurationX x(nomAffichage);
+  if (!x.configuration)
+    return false;
+  int nombre = 0;
+  const XRRScreenSize *tailles = XRRConfigSizes(x.configuration, &nombre);
+  return std::any_of(tailles, tailles + nombre, [&](const XRRScreenSize &t) {
+    return t.width == largeur && t.height == hauteur;
+  });
+#else
+  (void)largeur;
+  (void)hauteur;
+  (void)nomAffichage;
+  return false;
+#endif
+}
+
+bool ModeRéglable(int largeur, int hauteur) {
+  return SurX11() && ModeX11Offert(largeur, hauteur, nullptr);
+}
+
+QSize TailleQuiTient(QSize voulue, QSize disponible, QMargins cadre) {
+  const QSize place = disponible.shrunkBy(cadre).expandedTo({1, 1});
+  if (voulue.width() <= place.width() && voulue.height() <= place.height())
+    return voulue;
+  // In whole pixels, rounded down, so the result never overflows the place.
+  if (qint64(place.width()) * voulue.height() <= qint64(place.height()) * voulue.width())
+    return {place.width(), int(qint64(place.width()) * voulue.height() / voulue.width())};
+  return {int(qint64(place.height()) * voulue.width() / voulue.height()), place.height()};
+}
+
 EnregistrementAffichage LitModeAffichage() {
   if (SurX11())
     if (const auto mode = LitModeX11(nullptr))
@@ -144,9 +178,21 @@ void AppliqueModeAffichage(const EnregistrementAffichage &e) {
     return;
   if (!modeDeDépart)
     modeDeDépart = LitModeX11(nullptr);
-  if (AppliqueModeX11(e, nullptr) && modeDeDépart)
-    modeChangé =
-        e.dmPelsWidth != modeDeDépart->dmPelsWidth || e.dmPelsHeight != modeDeDépart->dmPelsHeight;
+  if (!AppliqueModeX11(e, nullptr) || !modeDeDépart)
+    return;
+  // A server may say yes and keep its mode: what counts is the mode read back.
+  const auto lu = LitModeX11(nullptr);
+  if (!lu || lu->dmPelsWidth != e.dmPelsWidth || lu->dmPelsHeight != e.dmPelsHeight)
+    return;
+  modeChangé =
+      e.dmPelsWidth != modeDeDépart->dmPelsWidth || e.dmPelsHeight != modeDeDépart->dmPelsHeight;
+  // The window is fitted to the screen as Qt knows it, which learns of the
+  // new size by an event of its own: give it a moment.
+  const QSize taille(e.dmPelsWidth, e.dmPelsHeight);
+  const QDeadlineTimer limite(1000);
+  while (QCoreApplication::instance() && QGuiApplication::primaryScreen() &&
+         QGuiApplication::primaryScreen()->size() != taille && !limite.hasExpired())
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
 }
 
 // Needs no application object: it may run once everything else is gone.

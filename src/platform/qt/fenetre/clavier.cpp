@@ -290,6 +290,8 @@ QRect Clavier::PartieVisible() const {
 }
 
 void Clavier::MontreCadre() {
+  if (!CartesVivantes())
+    return;
   QWidget *carte = fenêtre.Vue(t.Fenêtre.CartesJeu[39 + place]);
   cadre->setGeometry(PartieVisible());
   cadre->show();
@@ -309,7 +311,18 @@ void Clavier::ChangeÉchelle() {
     cadre->setGeometry(PartieVisible());
 }
 
+// The human's cards can be played: dealt face up, taking clicks, while the
+// computer searches or GO waits.
+bool Clavier::CartesVivantes() const {
+  const auto &f = t.Fenêtre;
+  const Contrôle &carte = f.CartesJeu[39 + place];
+  return carte.Visible && carte.Enabled && carte.Picture >= 0 && carte.Picture < 52 &&
+         (f.Joue.Visible || t.BalayageEnCours);
+}
+
 void Clavier::AprèsSynchronisation() {
+  if (CadreVisible() && !CartesVivantes())
+    CacheCadre();
   const bool ouvert = t.Fenêtre.NomsJoueursSS.Visible;
   if (ouvert == panneauOuvert)
     return;
@@ -338,17 +351,20 @@ bool Clavier::Espace() {
 
 void Clavier::OrdreDeTabulation() {
   auto &f = t.Fenêtre;
+  // As the menu reads: its buttons top to bottom, then the row of pictures
+  // left to right; then the panels that may stand over the table.
   const Contrôle *ordre[] = {&f.NouveauJeu,
-                             &f.Joue,
-                             &f.Arrêt,
-                             &f.Rejoue,
-                             &f.Mode,
-                             &f.NomsJoueurs,
                              &f.Scoresà0,
+                             &f.NomsJoueurs,
+                             &f.Mode,
+                             &f.Rejoue,
+                             &f.Arrêt,
+                             &f.Fin,
                              &f.VoirOrdi[0],
                              &f.VoirOrdi[1],
                              &f.VoirRègles[0],
                              &f.VoirRègles[1],
+                             &f.Joue,
                              &f.TextScroll[0],
                              &f.TextScroll[1],
                              &f.NomsJoueursText[0],
@@ -357,8 +373,7 @@ void Clavier::OrdreDeTabulation() {
                              &f.NomsJoueursText[3],
                              &f.EnregistreNoms,
                              &f.AnnuleNoms,
-                             &f.NonConnectéCmd,
-                             &f.Fin};
+                             &f.NonConnectéCmd};
   QWidget *avant = nullptr;
   for (const Contrôle *c : ordre) {
     QWidget *vue = fenêtre.Vue(*c);

@@ -76,6 +76,7 @@ private:
   bool panneauOuvert = false;
 
   bool Saisie() const;
+  bool CartesVivantes() const;
   void DéplaceCadre(int dx, int dy);
   void MontreCadre();
   QRect PartieVisible() const;

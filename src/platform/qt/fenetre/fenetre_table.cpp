@@ -5,9 +5,13 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
+#include <QScreen>
+#include <QStyle>
+#include <QWindow>
 #include <cmath>
 
 #include "core/table_state.h"
+#include "platform/qt/bureau/affichage.h"
 #include "platform/qt/fenetre/accessibilite.h"
 #include "platform/qt/jeux/choix_du_jeu.h"
 #include "platform/qt/fenetre/clavier.h"
@@ -274,6 +278,31 @@ void FenêtreTable::RetrouveTaille() {
   const QByteArray géométrie = RéglagesDuJoueur()->value("fenetre/geometrie").toByteArray();
   if (!géométrie.isEmpty())
     restoreGeometry(géométrie);
+  const QSize voulue = size();
+  TientDansLÉcran(voulue);
+  // The frame's true size is known once the window stands on the screen; a
+  // size the player has set meanwhile is left alone.
+  QTimer::singleShot(500, this, [this, voulue, ajustée = size()] {
+    if (isVisible() && size() == ajustée)
+      TientDansLÉcran(voulue);
+  });
+}
+
+void FenêtreTable::TientDansLÉcran(QSize voulue) {
+  const QScreen *écran = screen();
+  if (!écran || isMaximized() || isFullScreen())
+    return;
+  const QRect disponible = écran->availableGeometry();
+  QMargins cadre = windowHandle() ? windowHandle()->frameMargins() : QMargins();
+  // Before the window is shown its frame is unknown: a title bar is assumed.
+  if (cadre.isNull() && !isVisible())
+    cadre.setTop(std::max(32, style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this)));
+  const QSize taille = TailleQuiTient(voulue, disponible.size(), cadre);
+  if (taille == size())
+    return;
+  resize(taille);
+  move(disponible.x() + (disponible.width() - taille.width() - cadre.left() - cadre.right()) / 2,
+       disponible.y() + (disponible.height() - taille.height() - cadre.top() - cadre.bottom()) / 2);
 }
 
 void FenêtreTable::MémoriseTaille() {

@@ -44,7 +44,8 @@ public:
   // F11: full screen and back to the window as it was.
   void BasculePleinÉcran();
   // Opens at the size the player last left the game at; the size is kept
-  // again when the window goes.
+  // again when the window goes. A window that would not fit the screen's
+  // free area, frame included, is made the largest that fits.
   void RetrouveTaille();
   Clavier &Touches() const { return *clavier; }
   TroisNiveaux &Table() const { return t; }
@@ -61,6 +62,7 @@ private:
   void Relie();
   void SynchroniseMinuteries();
   void MémoriseTaille();
+  void TientDansLÉcran(QSize voulue);
 
   TroisNiveaux &t;
   PlateformeQt &plateforme;

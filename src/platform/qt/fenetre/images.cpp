@@ -62,6 +62,9 @@ QPainterPath Couleur(int couleur, qreal x, qreal y, qreal t) {
     p.addEllipse(QPointF(x + t / 2, y + r), r, r);
     p.addEllipse(QPointF(x + t / 2 - r * 1.1, y + t * 0.52), r, r);
     p.addEllipse(QPointF(x + t / 2 + r * 1.1, y + t * 0.52), r, r);
+    // The heart of the sign, where the three lobes and the stem would
+    // otherwise leave light through.
+    p.addEllipse(QPointF(x + t / 2, y + t * 0.47), r * 0.6, r * 0.6);
     QPainterPath pied;
     pied.moveTo(x + t / 2, y + t * 0.4);
     pied.lineTo(x + t * 0.7, y + t);

@@ -90,7 +90,12 @@ void PlateformeQt::ChangeDisplaySettings(const EnregistrementAffichage &enregist
   AppliqueModeAffichage(enregistrement);
 }
 
-bool PlateformeQt::DemandeChangementRésolution() { return DemandeAccordRésolution(); }
+// Only a change that can happen is asked for. Where the screen has no such
+// mode, or the desktop lets no program set one, the session goes on without
+// a word: the window is then fitted to the screen.
+bool PlateformeQt::DemandeChangementRésolution() {
+  return !ModeRéglable(1024, 768) || DemandeAccordRésolution();
+}
 
 bool PlateformeQt::EstConnecté() { return MachineEnLigne(); }
 

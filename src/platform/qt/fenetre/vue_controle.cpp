@@ -155,7 +155,7 @@ void VueContrôle::PlaceÉtrangers() {
     const auto px = [this](int v) { return static_cast<int>(std::lround(v * échelle)); };
     enfant->setGeometry(px(r.x()), px(r.y()), px(r.width()), px(r.height()));
     // A web view zooms its page; any other widget has its font grown.
-    if (enfant->metaObject()->indexOfProperty("zoomFactor") >= 0) {
+    if (enfant->property("zoomFactor").isValid()) {
       enfant->setProperty("zoomFactor", std::clamp(échelle, 0.25, 5.0));
     } else {
       QFont police = enfant->property(PoliceDessinée).value<QFont>();

@@ -208,13 +208,12 @@ void PagesWeb::Navigue(VueWeb vue, const std::string &page) {
   // Qt's own text view costs next to nothing: it is made at once, and the
   // game's pages are in the window's very first image.
   if (!détail->vues[n]) {
-    auto *nouvelle = new VueTexte(panneau, détail->réseau, [](const QUrl &url) {
+    auto *nouvelle = new VueTexte(panneau, Géométrie(vue), détail->réseau, [](const QUrl &url) {
       if (Permis(url.toString()))
         return true;
       ++refusées;
       return false;
     });
-    nouvelle->setGeometry(Géométrie(vue));
     détail->vues[n] = nouvelle;
     nouvelle->show();
   }

@@ -1,9 +1,12 @@
 #include "platform/qt/panneaux/vue_texte.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QFile>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QNetworkRequest>
+#include <QPaintEvent>
+#include <QPainter>
 #include <QPointer>
 #include <QScrollBar>
 #include <QStringDecoder>
@@ -31,9 +34,13 @@ QByteArray DonnéesEnLigne(const QUrl &url) {
 }
 } // namespace
 
-VueTexte::VueTexte(QWidget *parent, QNetworkAccessManager &réseau,
+VueTexte::VueTexte(QWidget *parent, const QRect &place, QNetworkAccessManager &réseau,
                    std::function<bool(const QUrl &)> autorise)
     : QTextBrowser(parent), réseau(réseau), autorise(std::move(autorise)) {
+  setGeometry(place);
+  setLineWrapMode(QTextEdit::FixedPixelWidth);
+  setLineWrapColumnOrWidth(place.width());
+  setProperty("zoomFactor", 1.0);
   setFrameShape(QFrame::NoFrame);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -103,6 +110,28 @@ QNetworkReply *VueTexte::Récupère(const QUrl &url, std::function<void(const QB
     suite(réponse->readAll());
   });
   return réponse;
+}
+
+// The layout of the designed size, drawn at the zoom: text is drawn by the
+// scaled painter at its final size, not stretched from a small image.
+void VueTexte::paintEvent(QPaintEvent *e) {
+  const double zoom = std::max(0.05, property("zoomFactor").toDouble());
+  QPainter p(viewport());
+  p.fillRect(e->rect(), viewport()->palette().color(QPalette::Base));
+  p.setRenderHint(QPainter::SmoothPixmapTransform);
+  p.scale(zoom, zoom);
+  QAbstractTextDocumentLayout::PaintContext contexte;
+  contexte.palette = viewport()->palette();
+  contexte.clip = QRectF(e->rect().x() / zoom, e->rect().y() / zoom, e->rect().width() / zoom,
+                         e->rect().height() / zoom);
+  p.setClipRect(contexte.clip);
+  document()->documentLayout()->draw(&p, contexte);
+}
+
+bool VueTexte::event(QEvent *e) {
+  if (e->type() == QEvent::DynamicPropertyChange)
+    viewport()->update();
+  return QTextBrowser::event(e);
 }
 
 // Pictures and style sheets of a page: from the allowed places only. Those

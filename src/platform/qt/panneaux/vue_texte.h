@@ -2,7 +2,9 @@
 // A web panel drawn by Qt's own rich-text engine: the game's pages read from
 // disk, or pages fetched from the advert server with Qt Network. Nothing
 // outside what `autorise` allows is ever requested, redirects are not
-// followed, and the view takes no event.
+// followed, and the view takes no event. The page is laid out once at the
+// view's designed size and drawn at the table's scale (its "zoomFactor", as
+// a web view has), so it wraps alike at every size and stays sharp.
 #include <QHash>
 #include <QSet>
 #include <QTextBrowser>
@@ -14,8 +16,9 @@ class QNetworkReply;
 
 class VueTexte : public QTextBrowser {
 public:
-  // `autorise` says whether an address may be loaded (and counts refusals).
-  VueTexte(QWidget *parent, QNetworkAccessManager &réseau,
+  // `autorise` says whether an address may be loaded (and counts refusals);
+  // `place` is the view's geometry in its panel at the designed size.
+  VueTexte(QWidget *parent, const QRect &place, QNetworkAccessManager &réseau,
            std::function<bool(const QUrl &)> autorise);
 
   // Opens a page; a page that can't be had leaves the view as it was.
@@ -24,6 +27,8 @@ public:
 
 protected:
   QVariant loadResource(int type, const QUrl &nom) override;
+  void paintEvent(QPaintEvent *e) override;
+  bool event(QEvent *e) override;
 
 private:
   void Montre(const QByteArray &octets);
