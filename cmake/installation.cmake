@@ -40,13 +40,22 @@ set(TN_MAINTENEUR "TroisNiveaux <troisniveaux@users.noreply.github.com>" CACHE S
 configure_file(data/changelog.in changelog @ONLY)
 
 # Manual pages and the changelog, compressed as distributions ship them.
+# The English pages are the default ones; the French beside them in fr/.
 find_program(GZIP_PROGRAM gzip REQUIRED)
 set(PAGES_MANUEL)
-foreach(page troisniveaux troisniveaux-analyse)
-  add_custom_command(OUTPUT ${page}.6.gz
-    COMMAND ${GZIP_PROGRAM} -9n -c ${CMAKE_SOURCE_DIR}/data/man/${page}.6 > ${page}.6.gz
-    DEPENDS data/man/${page}.6 VERBATIM)
-  list(APPEND PAGES_MANUEL ${CMAKE_BINARY_DIR}/${page}.6.gz)
+foreach(langue en fr)
+  set(source ${CMAKE_SOURCE_DIR}/data/man)
+  if(langue STREQUAL "en")
+    set(source ${CMAKE_SOURCE_DIR}/data/man/en)
+  endif()
+  foreach(page troisniveaux troisniveaux-analyse)
+    add_custom_command(OUTPUT man/${langue}/${page}.6.gz
+      COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_BINARY_DIR}/man/${langue}
+      COMMAND ${GZIP_PROGRAM} -9n -c ${source}/${page}.6 > man/${langue}/${page}.6.gz
+      DEPENDS ${source}/${page}.6 VERBATIM)
+    list(APPEND PAGES_MANUEL_${langue} ${CMAKE_BINARY_DIR}/man/${langue}/${page}.6.gz)
+  endforeach()
+  list(APPEND PAGES_MANUEL ${PAGES_MANUEL_${langue}})
 endforeach()
 add_custom_command(OUTPUT changelog.gz
   COMMAND ${GZIP_PROGRAM} -9n -c ${CMAKE_BINARY_DIR}/changelog > changelog.gz
@@ -67,7 +76,8 @@ foreach(taille 16 22 24 32 48 64 128 256)
           DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/${taille}x${taille}/apps
           RENAME ${TN_ID_APPLICATION}.png)
 endforeach()
-install(FILES ${PAGES_MANUEL} DESTINATION ${CMAKE_INSTALL_MANDIR}/man6)
+install(FILES ${PAGES_MANUEL_en} DESTINATION ${CMAKE_INSTALL_MANDIR}/man6)
+install(FILES ${PAGES_MANUEL_fr} DESTINATION ${CMAKE_INSTALL_MANDIR}/fr/man6)
 # Named for the package, as Debian wants it.
 install(FILES ${CMAKE_BINARY_DIR}/copyright ${CMAKE_BINARY_DIR}/changelog.gz
         DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/troisniveaux)

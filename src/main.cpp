@@ -12,6 +12,7 @@
 #include "core/table_state.h"
 #include "platform/qt/fenetre/fenetre_table.h"
 #include "platform/qt/bureau/identite.h"
+#include "platform/qt/bureau/langue.h"
 #include "platform/qt/bureau/ligne_de_commande.h"
 #include "platform/qt/panneaux/pages_web.h"
 #include "platform/qt/fenetre/plateforme_qt.h"
@@ -66,6 +67,7 @@ int main(int argc, char *argv[]) {
     return *fin;
   PrépareWebEngine();
   QApplication application(argc, argv);
+  ParleLangue(LangueDeDépart(LangueDeLaLigneDeCommande()));
   if (!PrépareDémarrage())
     return 1;
 

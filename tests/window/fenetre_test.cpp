@@ -2,11 +2,18 @@
 
 #include <QApplication>
 #include <QImage>
+#include <QFile>
 #include <QLineEdit>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QSettings>
+#include <QXmlStreamReader>
 #include <QTest>
 #include <QTimer>
 
+#include "platform/qt/bureau/langue.h"
 #include "platform/qt/fenetre/images.h"
+#include "platform/qt/fenetre/vue_controle.h"
 #include "table_essai.h"
 
 TEST(Fenêtre, LesContrôlesSontÀLeurPlaceEtDansLeursCouleurs) {
@@ -193,4 +200,100 @@ TEST(Images, LesCartesSontNettesÀToutRapport) {
   EXPECT_EQ(double_.size(), QSize(180, 270));
   EXPECT_NE(ImageBrute(4, QSize(90, 135), 1), ImageBrute(7, QSize(90, 135), 1)) << "6 and 9";
   EXPECT_NE(ImageBrute(13, QSize(90, 135), 1), ImageBrute(26, QSize(90, 135), 1)) << "♦ and ♥";
+}
+
+// Every text of the English file is translated, and keeps the place-holders
+// (%1, %2) its French has: a missing one would drop a name or a number.
+TEST(Langues, ChaqueTexteALaTraductionAnglaise) {
+  QFile fichier(TN_DOSSIER_I18N "/troisniveaux_en.ts");
+  ASSERT_TRUE(fichier.open(QIODevice::ReadOnly));
+  QXmlStreamReader xml(&fichier);
+  QString source;
+  int messages = 0;
+  const QRegularExpression marque("%\\d");
+  const auto marques = [&](const QString &texte) {
+    QStringList liste;
+    for (const auto &m : marque.globalMatch(texte))
+      liste << m.captured();
+    liste.sort();
+    return liste;
+  };
+  while (!xml.atEnd()) {
+    if (xml.readNext() != QXmlStreamReader::StartElement)
+      continue;
+    if (xml.name() == u"source") {
+      source = xml.readElementText(QXmlStreamReader::IncludeChildElements);
+    } else if (xml.name() == u"translation") {
+      ++messages;
+      const bool finie = xml.attributes().value("type").isEmpty();
+      const QString traduction = xml.readElementText(QXmlStreamReader::IncludeChildElements);
+      EXPECT_TRUE(finie && !traduction.trimmed().isEmpty()) << source.toStdString();
+      EXPECT_EQ(marques(traduction), marques(source)) << source.toStdString();
+    }
+  }
+  EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
+  EXPECT_GT(messages, 60);
+}
+
+// In English every button's caption fits its button, the table small or
+// large, and every page of the book fits the book.
+TEST(Langues, EnAnglaisLesTextesTiennentDansLeurPlace) {
+  Table table;
+  ASSERT_TRUE(ParleLangue("en"));
+  auto &f = table.t.Fenêtre;
+  for (const double échelle : {1.0, 1.6, 2.5})
+    for (const bool expert : {false, true}) {
+      f.Mode.Caption = expert ? "EXPERT" : "DEBUTANT";
+      table.fenêtre.PourChaqueVue([&](const Contrôle &c, QWidget *) {
+        if (c.genre != Genre::Bouton || c.Caption.empty())
+          return;
+        const int place = Pixels(c.Width, échelle) - 4 * static_cast<int>(std::lround(échelle));
+        EXPECT_LE(QFontMetrics(PoliceQt(c.police, échelle)).horizontalAdvance(TexteAffiché(c)),
+                  place)
+            << c.Nom << " at " << échelle;
+      });
+    }
+  const QFont police = PoliceQt(f.AfficheRègles.police, 1);
+  const QRect livre(0, 0, Pixels(f.AfficheRègles.Width, 1) - 2, Pixels(f.AfficheRègles.Height, 1));
+  for (int page = 0; page < 14; ++page) {
+    f.AfficheRègles.Caption = table.t.TextesRègles[page];
+    EXPECT_LE(QFontMetrics(police).boundingRect(livre, Qt::TextWordWrap, TexteAffiché(f.AfficheRègles)).height(),
+              livre.height())
+        << "page " << page + 1;
+  }
+  ParleLangue("fr");
+}
+
+// F12 changes the language at once, every text drawn again, and keeps the
+// choice; back in French the table is as it was, pixel for pixel.
+TEST(Langues, F12ChangeDeLangueEtRedessineTout) {
+  Table table;
+  auto &f = table.t.Fenêtre;
+  table.Clic(f.NouveauJeu);
+  table.Clic(f.Joue);
+  // The panels only: the stars move behind them.
+  const auto image = [&] {
+    return std::pair(table.Vue(f.MenuSS)->grab().toImage(), table.Vue(f.SSJoueur[3])->grab().toImage());
+  };
+  const auto français = image();
+  const int niveau = table.Vue(f.NiveauLabel[0])->width();
+  auto *fermer =
+      table.fenêtre.findChild<QWidget *>("panneauHistorique")->findChild<QPushButton *>();
+  ASSERT_NE(fermer, nullptr);
+  table.Touche(Qt::Key_F12);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(LangueParlée(), "en");
+  EXPECT_EQ(QSettings().value("langue").toString(), "en");
+  EXPECT_EQ(LangueDeDépart(""), "en") << "the choice is kept for the next session";
+  EXPECT_EQ(TexteAffiché(f.NouveauJeu), "PLAY");
+  EXPECT_EQ(fermer->text(), "CLOSE");
+  EXPECT_NE(table.Vue(f.NiveauLabel[0])->width(), niveau) << "LEVEL 1 is narrower";
+  EXPECT_NE(image().first, français.first);
+  EXPECT_NE(image().second, français.second);
+  table.Touche(Qt::Key_F12);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(LangueParlée(), "fr");
+  EXPECT_EQ(fermer->text(), "FERMER");
+  EXPECT_TRUE(image() == français);
+  QSettings().remove("langue");
 }

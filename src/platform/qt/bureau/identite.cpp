@@ -31,7 +31,8 @@ bool PrépareDémarrage() {
   PagesWeb::DéfinitDossierLocal(choix.pages);
   if (choix.erreur.isEmpty())
     return true;
-  const QString message = choix.erreur + " La partie ne peut pas commencer.";
+  const QString message =
+      choix.erreur + QCoreApplication::translate("Messages", " La partie ne peut pas commencer.");
   std::fprintf(stderr, "TroisNiveaux : %s\n", message.toLocal8Bit().constData());
   if (QGuiApplication::platformName() != "offscreen")
     QMessageBox::critical(nullptr, "TroisNiveaux", message);

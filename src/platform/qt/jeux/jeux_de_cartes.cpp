@@ -287,7 +287,7 @@ int Choisi() { return état().choisi; }
 QString NomDuChoix(int numéro) {
   if (numéro >= 1 && numéro <= static_cast<int>(Installés().size()))
     return Installés()[numéro - 1].nom;
-  return "Jeu de TroisNiveaux";
+  return QCoreApplication::translate("Jeux", "Jeu de TroisNiveaux");
 }
 
 void Choisit(int numéro, std::function<void(bool)> prêt) {
