@@ -64,6 +64,7 @@ add_custom_target(pages-manuel ALL DEPENDS ${PAGES_MANUEL} changelog.gz)
 
 install(TARGETS troisniveaux troisniveaux-analyse RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(FILES data/Noms data/Scores data/pub0.htm data/pub1.htm data/logomdc200.htm
+        data/pub0-en.htm data/pub1-en.htm
         DESTINATION ${TN_DONNEES_INSTALLEES})
 install(FILES ${CMAKE_BINARY_DIR}/${TN_ID_APPLICATION}.desktop
         DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)

@@ -59,6 +59,11 @@
         <source>%1 ligne(s) illisible(s) du fichier passée(s)</source>
         <translation>%1 unreadable line(s) of the file skipped</translation>
     </message>
+    <message>
+        <source>,</source>
+        <comment>decimal separator</comment>
+        <translation>.</translation>
+    </message>
 </context>
 <context>
     <name>Jeux</name>

@@ -28,8 +28,9 @@ const QColor Texte(235, 235, 235);
 
 QString Moyenne(double x) {
   QString texte = QString::number(x, 'f', 2);
-  texte.replace('.', ',');
-  return texte == "-0,00" ? "0,00" : texte;
+  if (texte == "-0.00")
+    texte = "0.00";
+  return texte.replace('.', QCoreApplication::translate("Historique", ",", "decimal separator"));
 }
 
 QFont PolicePixels(qreal pixels, bool gras = false) {
