@@ -143,6 +143,130 @@ first start with the default names and scores.
         <source> La partie ne peut pas commencer.</source>
         <translation> The game cannot start.</translation>
     </message>
+    <message>
+        <source>Le fichier « %1 » (%2) est introuvable. La partie ne peut pas commencer.</source>
+        <translation>The file “%1” (%2) cannot be found. The game cannot start.</translation>
+    </message>
+    <message>
+        <source>Le fichier « %1 » (%2) n&apos;est pas un fichier ordinaire. La partie ne peut pas commencer.</source>
+        <translation>The file “%1” (%2) is not an ordinary file. The game cannot start.</translation>
+    </message>
+    <message>
+        <source>Le fichier « %1 » (%2) ne peut pas être lu (droits insuffisants ?). La partie ne peut pas commencer.</source>
+        <translation>The file “%1” (%2) cannot be read (not enough permissions?). The game cannot start.</translation>
+    </message>
+    <message>
+        <source>Le fichier « %1 » (%2) est trop grand pour être un fichier du jeu (plus de 1 Mo). La partie ne peut pas commencer.</source>
+        <translation>The file “%1” (%2) is too large to be one of the game&apos;s files (over 1 MB). The game cannot start.</translation>
+    </message>
+    <message>
+        <source>Le fichier « %1 » (%2) ne contient aucun nom. La partie ne peut pas commencer.</source>
+        <translation>The file “%1” (%2) holds no name. The game cannot start.</translation>
+    </message>
+    <message>
+        <source>Le fichier « %1 » (%2) ne contient aucun score. La partie ne peut pas commencer.</source>
+        <translation>The file “%1” (%2) holds no score. The game cannot start.</translation>
+    </message>
+    <message>
+        <source>Le fichier « %1 » (%2) contient un seul nom au lieu de quatre. La partie ne peut pas commencer.</source>
+        <translation>The file “%1” (%2) holds only one name instead of four. The game cannot start.</translation>
+    </message>
+    <message>
+        <source>Le fichier « %1 » (%2) contient un seul score au lieu de quatre. La partie ne peut pas commencer.</source>
+        <translation>The file “%1” (%2) holds only one score instead of four. The game cannot start.</translation>
+    </message>
+    <message>
+        <source>Le fichier « %1 » (%2) contient seulement deux noms au lieu de quatre. La partie ne peut pas commencer.</source>
+        <translation>The file “%1” (%2) holds only two names instead of four. The game cannot start.</translation>
+    </message>
+    <message>
+        <source>Le fichier « %1 » (%2) contient seulement deux scores au lieu de quatre. La partie ne peut pas commencer.</source>
+        <translation>The file “%1” (%2) holds only two scores instead of four. The game cannot start.</translation>
+    </message>
+    <message>
+        <source>Le fichier « %1 » (%2) contient seulement trois noms au lieu de quatre. La partie ne peut pas commencer.</source>
+        <translation>The file “%1” (%2) holds only three names instead of four. The game cannot start.</translation>
+    </message>
+    <message>
+        <source>Le fichier « %1 » (%2) contient seulement trois scores au lieu de quatre. La partie ne peut pas commencer.</source>
+        <translation>The file “%1” (%2) holds only three scores instead of four. The game cannot start.</translation>
+    </message>
+    <message>
+        <source>Le fichier « %1 » (%2) : la ligne %3 n&apos;est pas un nom entre guillemets. La partie ne peut pas commencer.</source>
+        <translation>The file “%1” (%2): line %3 is not a name between double quotes. The game cannot start.</translation>
+    </message>
+    <message>
+        <source>Le fichier « %1 » (%2) : la ligne %3 n&apos;est pas un nombre entier. La partie ne peut pas commencer.</source>
+        <translation>The file “%1” (%2): line %3 is not a whole number. The game cannot start.</translation>
+    </message>
+    <message>
+        <source>Le fichier « %1 » (%2) : la ligne %3 contient un nombre trop grand (un score va de -2147483648 à 2147483647). La partie ne peut pas commencer.</source>
+        <translation>The file “%1” (%2): line %3 holds a number too large (a score goes from -2147483648 to 2147483647). The game cannot start.</translation>
+    </message>
+    <message>
+        <source>Impossible d&apos;enregistrer le fichier « %1 » (%2) : %3. La partie continue ; le fichier a pu rester incomplet.</source>
+        <translation>The file “%1” (%2) could not be saved: %3. The game goes on; the file may have been left incomplete.</translation>
+    </message>
+    <message>
+        <source>Impossible d&apos;enregistrer le fichier « %1 » (%2) : %3. La partie continue ; l&apos;ancien fichier est conservé.</source>
+        <translation>The file “%1” (%2) could not be saved: %3. The game goes on; the old file is kept.</translation>
+    </message>
+    <message>
+        <source>L&apos;historique des scores ne peut pas être enregistré dans le fichier « %1 » (%2). La partie continue sans lui.</source>
+        <translation>The score history cannot be saved in the file “%1” (%2). The game goes on without it.</translation>
+    </message>
+    <message>
+        <source>Le dossier « %1 » ne peut pas être créé.</source>
+        <translation>The folder “%1” cannot be created.</translation>
+    </message>
+    <message>
+        <source>Le dossier « %1 » refuse la création d&apos;un dossier (%2).</source>
+        <translation>The folder “%1” does not allow a folder to be created in it (%2).</translation>
+    </message>
+    <message>
+        <source>Le fichier « %1 » ne peut pas être copié dans « %2 » (%3).</source>
+        <translation>The file “%1” cannot be copied into “%2” (%3).</translation>
+    </message>
+    <message>
+        <source>Les fichiers « Noms » et « Scores » livrés avec le jeu sont introuvables (cherchés dans : %1). Le dossier « %2 » ne peut pas être préparé.</source>
+        <translation>The “Noms” and “Scores” files that come with the game cannot be found (looked for in: %1). The folder “%2” cannot be prepared.</translation>
+    </message>
+    <message>
+        <source>un dossier porte ce nom</source>
+        <translation>a folder has that name</translation>
+    </message>
+    <message>
+        <source>ce nom n&apos;est pas celui d&apos;un fichier ordinaire (un tube, un périphérique ou un lien vers l&apos;un d&apos;eux)</source>
+        <translation>that name is not an ordinary file&apos;s (a pipe, a device or a link to one)</translation>
+    </message>
+    <message>
+        <source>le disque est plein</source>
+        <translation>the disk is full</translation>
+    </message>
+    <message>
+        <source>la taille permise aux fichiers est dépassée</source>
+        <translation>the size allowed for files is exceeded</translation>
+    </message>
+    <message>
+        <source>le disque est en lecture seule</source>
+        <translation>the disk is read-only</translation>
+    </message>
+    <message>
+        <source>le dossier est protégé en écriture</source>
+        <translation>the folder is write-protected</translation>
+    </message>
+    <message>
+        <source>le fichier est protégé en écriture</source>
+        <translation>the file is write-protected</translation>
+    </message>
+    <message>
+        <source>le système a refusé l&apos;écriture</source>
+        <translation>the system refused to write</translation>
+    </message>
+    <message>
+        <source>aucun dossier</source>
+        <translation>no folder</translation>
+    </message>
 </context>
 <context>
     <name>Regles</name>

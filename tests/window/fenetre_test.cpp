@@ -12,6 +12,7 @@
 #include <QTimer>
 
 #include "platform/qt/bureau/langue.h"
+#include "platform/qt/bureau/messages.h"
 #include "platform/qt/fenetre/images.h"
 #include "platform/qt/fenetre/vue_controle.h"
 #include "table_essai.h"
@@ -296,4 +297,31 @@ TEST(Langues, F12ChangeDeLangueEtRedessineTout) {
   EXPECT_EQ(fermer->text(), "FERMER");
   EXPECT_TRUE(image() == français);
   QSettings().remove("langue");
+}
+
+// The engine's messages as it writes them are told again in English, names,
+// paths and line numbers kept: a pattern that drifted from the engine's
+// French would leave them French.
+TEST(Langues, LesMessagesDuMoteurSeDisentEnAnglais) {
+  ASSERT_TRUE(ParleLangue("en"));
+  const std::tuple<const char *, const char *, const char *> cas[] = {
+      {"Scores", "0\r\n0\r\nx\r\n0\r\n", "The file “Scores” (%1): line 3 is not a whole number."},
+      {"Noms", "\"A\"\r\n", "The file “Noms” (%1) holds only one name instead of four."},
+      {"Noms", nullptr, "The file “Noms” (%1) cannot be found."}};
+  for (const auto &[fichier, octets, attendu] : cas) {
+    DossierEssai dossier;
+    if (octets)
+      dossier.Écrit(fichier, octets);
+    else
+      std::filesystem::remove(std::filesystem::path(dossier.Chemin()) / fichier);
+    Table::Plateforme plateforme;
+    plateforme.dossier = dossier.Chemin();
+    plateforme.dialogues = false;
+    TroisNiveaux t{plateforme};
+    t.Form_Load();
+    const QString chemin = QString::fromStdString(dossier.Chemin() + "/" + fichier);
+    EXPECT_EQ(TraduitMessage(t.ErreurDémarrage),
+              QString(attendu).arg(chemin) + " The game cannot start.");
+  }
+  ParleLangue("fr");
 }
