@@ -2,6 +2,57 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="fr">
 <context>
+    <name>Clavier</name>
+    <message>
+        <source>touche %1</source>
+        <translation>%1 key</translation>
+    </message>
+    <message>
+        <source>Solution de l&apos;ordinateur</source>
+        <translation>The computer&apos;s solution</translation>
+    </message>
+    <message>
+        <source>Règles du jeu</source>
+        <translation>Rules of the game</translation>
+    </message>
+    <message>
+        <source>Page précédente</source>
+        <translation>Previous page</translation>
+    </message>
+    <message>
+        <source>Page suivante</source>
+        <translation>Next page</translation>
+    </message>
+    <message>
+        <source>L&apos;ordinateur cherche : un clic ici ou la touche %1 lui fait finir sa recherche sans attendre</source>
+        <translation>The computer is thinking: a click here or the %1 key makes it finish its search at once</translation>
+    </message>
+    <message>
+        <source>Entrée</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>Échap</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Espace</source>
+        <translation>Space</translation>
+    </message>
+    <message>
+        <source>Page préc.</source>
+        <translation>Page Up</translation>
+    </message>
+    <message>
+        <source>Page suiv.</source>
+        <translation>Page Down</translation>
+    </message>
+    <message>
+        <source>Maj+</source>
+        <translation>Shift+</translation>
+    </message>
+</context>
+<context>
     <name>Historique</name>
     <message>
         <source>Historique des scores</source>

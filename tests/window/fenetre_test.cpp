@@ -288,6 +288,7 @@ TEST(Langues, F12ChangeDeLangueEtRedessineTout) {
   EXPECT_EQ(LangueDeDépart(""), "en") << "the choice is kept for the next session";
   EXPECT_EQ(TexteAffiché(f.NouveauJeu), "PLAY");
   EXPECT_EQ(fermer->text(), "CLOSE");
+  EXPECT_EQ(table.Vue(f.NouveauJeu)->toolTip(), "PLAY — F2 key");
   EXPECT_NE(table.Vue(f.NiveauLabel[0])->width(), niveau) << "LEVEL 1 is narrower";
   EXPECT_NE(image().first, français.first);
   EXPECT_NE(image().second, français.second);
@@ -295,6 +296,7 @@ TEST(Langues, F12ChangeDeLangueEtRedessineTout) {
   QCoreApplication::processEvents();
   EXPECT_EQ(LangueParlée(), "fr");
   EXPECT_EQ(fermer->text(), "FERMER");
+  EXPECT_EQ(table.Vue(f.NouveauJeu)->toolTip(), "JOUER — touche F2");
   EXPECT_TRUE(image() == français);
   QSettings().remove("langue");
 }
