@@ -90,7 +90,7 @@ set(CPACK_PACKAGE_VENDOR "TroisNiveaux")
 set(CPACK_PACKAGE_CONTACT "${TN_MAINTENEUR}")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "card game: thirteen cards on three levels")
 set(CPACK_PACKAGE_DESCRIPTION
-  "Trois Niveaux is a card game in French for one player against three computer\nseats. Each deal gives every seat 13 cards to lay on three levels of 5, 5 and\n3 cards, each level stronger than the next by poker order; every level is\nthen paid against the same level of the other seats. The computer plays by\nexhaustive search over all 72072 ways to lay its cards.\n\nThe package also holds troisniveaux-analyse, which shows on the command line\nthe layout the computer plays for a hand and replays a whole deal.")
+  "Trois Niveaux is a card game in French or English for one player against\nthree computer seats. Each deal gives every seat 13 cards to lay on three\nlevels of 5, 5 and 3 cards, each level stronger than the next by poker order;\nevery level is then paid against the same level of the other seats. The computer plays by\nexhaustive search over all 72072 ways to lay its cards.\n\nThe package also holds troisniveaux-analyse, which shows on the command line\nthe layout the computer plays for a hand and replays a whole deal.")
 set(CPACK_RESOURCE_FILE_LICENSE ${CMAKE_SOURCE_DIR}/LICENSE)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION games)
