@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="fr">
 <context>
+    <name>Cartes</name>
+    <message>
+        <source>V</source>
+        <translation>J</translation>
+    </message>
+    <message>
+        <source>D</source>
+        <translation>Q</translation>
+    </message>
+    <message>
+        <source>R</source>
+        <translation>K</translation>
+    </message>
+    <message>
+        <source>A</source>
+        <translation>A</translation>
+    </message>
+</context>
+<context>
     <name>Clavier</name>
     <message>
         <source>touche %1</source>
@@ -395,7 +414,7 @@ There are also 4 special hands.
     <message>
         <source>Elles sont gagnantes sur toutes les autres mains ; les voici, ci-après,  classées par ordre décroissant de valeur :<byte value="xd"/>- MEGA QUINTE (2, 3, 4, 5, 6, 7, 8, 9, 10, V, D, R et A) =&gt;  5 Points par niveau et sur chaque adversaire, soit 45 Points au total.<byte value="xd"/>- 6 PAIRES (6 Paires et 1 carte quelconque) =&gt; 2 Points par niveau<byte value="xd"/></source>
         <translation>They beat every other hand; here they are, from highest to lowest:
-- MEGA QUINTE (2, 3, 4, 5, 6, 7, 8, 9, 10, J, Q, K and A) =&gt; 5 Points per level against each opponent, 45 Points in all.
+- MEGA QUINTE (all 13 ranks: 2, 3, 4, 5, 6, 7, 8, 9, 10, J, Q, K and A) =&gt; 5 Points per level against each opponent, 45 Points in all.
 - 6 PAIRS (6 Pairs and any 1 card) =&gt; 2 Points per level
 </translation>
     </message>
