@@ -37,6 +37,8 @@ desktop-file-validate "$dest/usr/share/applications/$id.desktop"
 appstreamcli validate --no-net "$dest/usr/share/metainfo/$id.metainfo.xml"
 jeu=$dest/usr/$binaires/troisniveaux
 "$jeu" --version
+# The installed translation is found from the installed program.
+"$jeu" --langue en --help | grep -q '^Usage:' || { echo "la traduction anglaise installée est introuvable" >&2; exit 1; }
 if "$jeu" --inconnue 2>/dev/null; then
   echo "une option inconnue est acceptée" >&2
   exit 1

@@ -93,12 +93,14 @@ std::optional<int> TraiteLigneDeCommande(int argc, const char *const argv[]) {
   const QString fautif = QString::fromLocal8Bit(argv[premier]);
   if (fautif.startsWith('-'))
     Écrit(stderr, langue,
-          QT_TRANSLATE_NOOP("LigneDeCommande", "troisniveaux : option inconnue « %1 »\n"), {fautif});
+          QT_TRANSLATE_NOOP("LigneDeCommande", "troisniveaux : option inconnue « %1 »\n"),
+          {fautif});
   else
     Écrit(stderr, langue,
           QT_TRANSLATE_NOOP("LigneDeCommande", "troisniveaux : argument inattendu « %1 »\n"),
           {fautif});
   Écrit(stderr, langue,
-        QT_TRANSLATE_NOOP("LigneDeCommande", "Essayez « troisniveaux --help » pour en savoir plus.\n"));
+        QT_TRANSLATE_NOOP("LigneDeCommande",
+                          "Essayez « troisniveaux --help » pour en savoir plus.\n"));
   return 2;
 }
