@@ -1,4 +1,5 @@
 #include <QtGlobal>
+
 #include "showdown/abattage.h"
 
 namespace abattage {

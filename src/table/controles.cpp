@@ -1,6 +1,6 @@
-#include <QtGlobal>
 #include "table/controles.h"
 
+#include <QtGlobal>
 #include <string>
 
 #include "core/table_state.h"
@@ -149,10 +149,13 @@ Contrôles::Contrôles() {
 
   // ---- Menu
   Panneau(MenuSS, "MenuSS", nullptr, 8010, 6600, 3945, 2355, 0x808080);
-  Bouton(NouveauJeu, "NouveauJeu", &MenuSS, 120, 120, 1800, 1545, QT_TRANSLATE_NOOP("Table", "JOUER"));
+  Bouton(NouveauJeu, "NouveauJeu", &MenuSS, 120, 120, 1800, 1545,
+         QT_TRANSLATE_NOOP("Table", "JOUER"));
   NouveauJeu.police = Arial(20.25);
-  Bouton(Scoresà0, "Scoresà0", &MenuSS, 1920, 120, 1935, 345, QT_TRANSLATE_NOOP("Table", "SCORES A 0"));
-  Bouton(NomsJoueurs, "NomsJoueurs", &MenuSS, 1920, 480, 1935, 345, QT_TRANSLATE_NOOP("Table", "JOUEURS"));
+  Bouton(Scoresà0, "Scoresà0", &MenuSS, 1920, 120, 1935, 345,
+         QT_TRANSLATE_NOOP("Table", "SCORES A 0"));
+  Bouton(NomsJoueurs, "NomsJoueurs", &MenuSS, 1920, 480, 1935, 345,
+         QT_TRANSLATE_NOOP("Table", "JOUEURS"));
   Bouton(Mode, "Mode", &MenuSS, 1920, 840, 1935, 345, QT_TRANSLATE_NOOP("Table", "DEBUTANT"));
   Mode.BackColor = 0x80C0FF;
   Bouton(Rejoue, "Rejoue", &MenuSS, 1920, 1200, 1935, 345, QT_TRANSLATE_NOOP("Table", "REJOUE"));
@@ -161,7 +164,8 @@ Contrôles::Contrôles() {
   Bouton(VoirOrdi[0], "VoirOrdi(0)", &MenuSS, 120, 1680, 600, 600, "");
   VoirOrdi[0].Picture = ImageOrdinateur;
   VoirOrdi[0].Visible = false;
-  Bouton(VoirOrdi[1], "VoirOrdi(1)", &MenuSS, 120, 1680, 600, 600, QT_TRANSLATE_NOOP("Table", "OK"));
+  Bouton(VoirOrdi[1], "VoirOrdi(1)", &MenuSS, 120, 1680, 600, 600,
+         QT_TRANSLATE_NOOP("Table", "OK"));
   VoirOrdi[1].Visible = false;
   // The book lies over its OK button, so the book is what shows at first.
   Bouton(VoirRègles[1], "VoirRègles(1)", &MenuSS, 720, 1680, 600, 600, "OK");
@@ -190,8 +194,10 @@ Contrôles::Contrôles() {
     NomsJoueursText[s].BackColor = CouleurSiège[s];
     NomsJoueursText[s].police = Arial(9.75);
   }
-  Bouton(EnregistreNoms, "EnregistreNoms", &NomsJoueursSS, 90, 1575, 2310, 330, QT_TRANSLATE_NOOP("Table", "ENREGISTRE"));
-  Bouton(AnnuleNoms, "AnnuleNoms", &NomsJoueursSS, 90, 1905, 2310, 330, QT_TRANSLATE_NOOP("Table", "ANNULE"));
+  Bouton(EnregistreNoms, "EnregistreNoms", &NomsJoueursSS, 90, 1575, 2310, 330,
+         QT_TRANSLATE_NOOP("Table", "ENREGISTRE"));
+  Bouton(AnnuleNoms, "AnnuleNoms", &NomsJoueursSS, 90, 1905, 2310, 330,
+         QT_TRANSLATE_NOOP("Table", "ANNULE"));
 
   // ---- Title picture
   Panneau(SSImage, "SSImage", nullptr, 555, 510, 2925, 1380, CouleurSystèmeFenêtre);

@@ -1,4 +1,5 @@
 #include <QtGlobal>
+
 #include "core/table_state.h"
 #include "files/historique.h"
 

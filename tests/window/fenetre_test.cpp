@@ -1,15 +1,15 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QImage>
 #include <QFile>
+#include <QImage>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSettings>
-#include <QXmlStreamReader>
 #include <QTest>
 #include <QTimer>
+#include <QXmlStreamReader>
 
 #include "platform/qt/bureau/langue.h"
 #include "platform/qt/bureau/messages.h"
@@ -242,15 +242,16 @@ TEST(Langues, EnAnglaisLesTextesTiennentDansLeurPlace) {
       if (c.genre != Genre::Bouton || c.Caption.empty())
         return;
       const int place = Pixels(c.Width, échelle) - 4 * static_cast<int>(std::lround(échelle));
-      EXPECT_LE(QFontMetrics(PoliceQt(c.police, échelle)).horizontalAdvance(TexteAffiché(c)),
-                place)
+      EXPECT_LE(QFontMetrics(PoliceQt(c.police, échelle)).horizontalAdvance(TexteAffiché(c)), place)
           << c.Nom << " at " << échelle;
     });
   const QFont police = PoliceQt(f.AfficheRègles.police, 1);
   const QRect livre(0, 0, Pixels(f.AfficheRègles.Width, 1) - 2, Pixels(f.AfficheRègles.Height, 1));
   for (int page = 0; page < 14; ++page) {
     f.AfficheRègles.Caption = table.t.TextesRègles[page];
-    EXPECT_LE(QFontMetrics(police).boundingRect(livre, Qt::TextWordWrap, TexteAffiché(f.AfficheRègles)).height(),
+    EXPECT_LE(QFontMetrics(police)
+                  .boundingRect(livre, Qt::TextWordWrap, TexteAffiché(f.AfficheRègles))
+                  .height(),
               livre.height())
         << "page " << page + 1;
   }
@@ -266,7 +267,8 @@ TEST(Langues, F12ChangeDeLangueEtRedessineTout) {
   table.Clic(f.Joue);
   // The panels only: the stars move behind them.
   const auto image = [&] {
-    return std::pair(table.Vue(f.MenuSS)->grab().toImage(), table.Vue(f.SSJoueur[3])->grab().toImage());
+    return std::pair(table.Vue(f.MenuSS)->grab().toImage(),
+                     table.Vue(f.SSJoueur[3])->grab().toImage());
   };
   const auto français = image();
   const int niveau = table.Vue(f.NiveauLabel[0])->width();

@@ -102,11 +102,22 @@ void Clavier::BullesParticulières() {
   auto &f = t.Fenêtre;
   const QString touche = QCoreApplication::translate("Clavier", "touche %1");
   fenêtre.Vue(f.Joue)->setToolTip("GO — " + touche.arg(NomDeTouche(Qt::Key_Return)));
-  fenêtre.Vue(f.VoirOrdi[0])->setToolTip(QCoreApplication::translate("Clavier", "Solution de l'ordinateur") + " — " + touche.arg("F7"));
-  fenêtre.Vue(f.VoirRègles[0])->setToolTip(QCoreApplication::translate("Clavier", "Règles du jeu") + " — " + touche.arg("F1"));
-  fenêtre.Vue(f.TextScroll[0])->setToolTip(QCoreApplication::translate("Clavier", "Page précédente") + " — " + touche.arg(NomDeTouche(Qt::Key_PageUp)));
-  fenêtre.Vue(f.TextScroll[1])->setToolTip(QCoreApplication::translate("Clavier", "Page suivante") + " — " + touche.arg(NomDeTouche(Qt::Key_PageDown)));
-  const QString presse = QCoreApplication::translate("Clavier", "L'ordinateur cherche : un clic ici ou la touche %1 lui fait finir sa recherche sans attendre").arg(NomDeTouche(Qt::Key_Return));
+  fenêtre.Vue(f.VoirOrdi[0])
+      ->setToolTip(QCoreApplication::translate("Clavier", "Solution de l'ordinateur") + " — " +
+                   touche.arg("F7"));
+  fenêtre.Vue(f.VoirRègles[0])
+      ->setToolTip(QCoreApplication::translate("Clavier", "Règles du jeu") + " — " +
+                   touche.arg("F1"));
+  fenêtre.Vue(f.TextScroll[0])
+      ->setToolTip(QCoreApplication::translate("Clavier", "Page précédente") + " — " +
+                   touche.arg(NomDeTouche(Qt::Key_PageUp)));
+  fenêtre.Vue(f.TextScroll[1])
+      ->setToolTip(QCoreApplication::translate("Clavier", "Page suivante") + " — " +
+                   touche.arg(NomDeTouche(Qt::Key_PageDown)));
+  const QString presse =
+      QCoreApplication::translate("Clavier", "L'ordinateur cherche : un clic ici ou la touche %1 "
+                                             "lui fait finir sa recherche sans attendre")
+          .arg(NomDeTouche(Qt::Key_Return));
   for (const Contrôle *c : {&f.TempsSS, &f.TempsFondSS, &f.TempsShape, &f.TempsLabel})
     fenêtre.Vue(*c)->setToolTip(presse);
 }
@@ -127,7 +138,8 @@ void Clavier::Bulle(const Contrôle &c, QKeyCombination touche) {
   QWidget *vue = fenêtre.Vue(c);
   const QString nom = c.Caption.empty() ? QString() : TexteAffiché(c) + " — ";
   if (vue && vue->toolTip().isEmpty())
-    vue->setToolTip(nom + QCoreApplication::translate("Clavier", "touche %1").arg(NomDeTouche(touche)));
+    vue->setToolTip(nom +
+                    QCoreApplication::translate("Clavier", "touche %1").arg(NomDeTouche(touche)));
 }
 
 void Clavier::Ajoute(QKeyCombination touche, std::function<bool()> action) {

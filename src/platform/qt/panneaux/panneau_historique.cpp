@@ -98,9 +98,12 @@ void PanneauHistorique::Bascule() {
 void PanneauHistorique::Lit() {
   lecture = historique::Lit();
   figures = historique::Calcule(lecture.entrées);
-  tableau.assign(1, {QCoreApplication::translate("Historique", "Joueur"), QCoreApplication::translate("Historique", "Donnes"),
-                     QCoreApplication::translate("Historique", "Moyenne"), QCoreApplication::translate("Historique", "Meilleure"),
-                     QCoreApplication::translate("Historique", "Pire"), QCoreApplication::translate("Historique", "Score")});
+  tableau.assign(1, {QCoreApplication::translate("Historique", "Joueur"),
+                     QCoreApplication::translate("Historique", "Donnes"),
+                     QCoreApplication::translate("Historique", "Moyenne"),
+                     QCoreApplication::translate("Historique", "Meilleure"),
+                     QCoreApplication::translate("Historique", "Pire"),
+                     QCoreApplication::translate("Historique", "Score")});
   for (int s = 0; s <= 3; ++s) {
     const historique::FiguresSiège &f = figures.sièges[s];
     const bool vide = f.donnes == 0;
@@ -189,15 +192,19 @@ void PanneauHistorique::Dessine() {
   p.setFont(PolicePixels(h * 0.026));
   p.drawText(QRectF(marge, marge * 0.6, l - 2 * marge, h * 0.07), Qt::AlignRight | Qt::AlignVCenter,
              donnes == 0 ? QString()
-                         : QCoreApplication::translate("Historique", "donnes %1 à %2").arg(premièreDonne).arg(figures.donnes));
+                         : QCoreApplication::translate("Historique", "donnes %1 à %2")
+                               .arg(premièreDonne)
+                               .arg(figures.donnes));
 
   const QRectF graphe(marge + h * 0.09, h * 0.12, l - 2 * marge - h * 0.09 - l * 0.17, h * 0.44);
   if (montrées.empty()) {
     p.setFont(PolicePixels(h * 0.035));
-    p.drawText(graphe, Qt::AlignCenter,
-               lecture.trouvé
-                   ? QCoreApplication::translate("Historique", "Aucune donne dans l'historique.")
-                   : QCoreApplication::translate("Historique", "Pas encore d'historique : il commence à la prochaine donne."));
+    p.drawText(
+        graphe, Qt::AlignCenter,
+        lecture.trouvé
+            ? QCoreApplication::translate("Historique", "Aucune donne dans l'historique.")
+            : QCoreApplication::translate(
+                  "Historique", "Pas encore d'historique : il commence à la prochaine donne."));
   } else {
     double bas = 0, haut = 0;
     for (const auto *e : montrées)
