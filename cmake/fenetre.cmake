@@ -40,4 +40,5 @@ endif()
 add_custom_command(TARGET troisniveaux POST_BUILD
   COMMAND ${CMAKE_COMMAND} -E copy_if_different
           ${CMAKE_SOURCE_DIR}/data/pub0.htm ${CMAKE_SOURCE_DIR}/data/pub1.htm
+          ${CMAKE_SOURCE_DIR}/data/pub0-en.htm ${CMAKE_SOURCE_DIR}/data/pub1-en.htm
           ${CMAKE_SOURCE_DIR}/data/logomdc200.htm $<TARGET_FILE_DIR:troisniveaux>)

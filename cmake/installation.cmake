@@ -40,13 +40,22 @@ set(TN_MAINTENEUR "TroisNiveaux <troisniveaux@users.noreply.github.com>" CACHE S
 configure_file(data/changelog.in changelog @ONLY)
 
 # Manual pages and the changelog, compressed as distributions ship them.
+# The English pages are the default ones; the French beside them in fr/.
 find_program(GZIP_PROGRAM gzip REQUIRED)
 set(PAGES_MANUEL)
-foreach(page troisniveaux troisniveaux-analyse)
-  add_custom_command(OUTPUT ${page}.6.gz
-    COMMAND ${GZIP_PROGRAM} -9n -c ${CMAKE_SOURCE_DIR}/data/man/${page}.6 > ${page}.6.gz
-    DEPENDS data/man/${page}.6 VERBATIM)
-  list(APPEND PAGES_MANUEL ${CMAKE_BINARY_DIR}/${page}.6.gz)
+foreach(langue en fr)
+  set(source ${CMAKE_SOURCE_DIR}/data/man)
+  if(langue STREQUAL "en")
+    set(source ${CMAKE_SOURCE_DIR}/data/man/en)
+  endif()
+  foreach(page troisniveaux troisniveaux-analyse)
+    add_custom_command(OUTPUT man/${langue}/${page}.6.gz
+      COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_BINARY_DIR}/man/${langue}
+      COMMAND ${GZIP_PROGRAM} -9n -c ${source}/${page}.6 > man/${langue}/${page}.6.gz
+      DEPENDS ${source}/${page}.6 VERBATIM)
+    list(APPEND PAGES_MANUEL_${langue} ${CMAKE_BINARY_DIR}/man/${langue}/${page}.6.gz)
+  endforeach()
+  list(APPEND PAGES_MANUEL ${PAGES_MANUEL_${langue}})
 endforeach()
 add_custom_command(OUTPUT changelog.gz
   COMMAND ${GZIP_PROGRAM} -9n -c ${CMAKE_BINARY_DIR}/changelog > changelog.gz
@@ -55,6 +64,7 @@ add_custom_target(pages-manuel ALL DEPENDS ${PAGES_MANUEL} changelog.gz)
 
 install(TARGETS troisniveaux troisniveaux-analyse RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(FILES data/Noms data/Scores data/pub0.htm data/pub1.htm data/logomdc200.htm
+        data/pub0-en.htm data/pub1-en.htm
         DESTINATION ${TN_DONNEES_INSTALLEES})
 install(FILES ${CMAKE_BINARY_DIR}/${TN_ID_APPLICATION}.desktop
         DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
@@ -67,7 +77,8 @@ foreach(taille 16 22 24 32 48 64 128 256)
           DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/${taille}x${taille}/apps
           RENAME ${TN_ID_APPLICATION}.png)
 endforeach()
-install(FILES ${PAGES_MANUEL} DESTINATION ${CMAKE_INSTALL_MANDIR}/man6)
+install(FILES ${PAGES_MANUEL_en} DESTINATION ${CMAKE_INSTALL_MANDIR}/man6)
+install(FILES ${PAGES_MANUEL_fr} DESTINATION ${CMAKE_INSTALL_MANDIR}/fr/man6)
 # Named for the package, as Debian wants it.
 install(FILES ${CMAKE_BINARY_DIR}/copyright ${CMAKE_BINARY_DIR}/changelog.gz
         DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/doc/troisniveaux)
@@ -79,7 +90,7 @@ set(CPACK_PACKAGE_VENDOR "TroisNiveaux")
 set(CPACK_PACKAGE_CONTACT "${TN_MAINTENEUR}")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "card game: thirteen cards on three levels")
 set(CPACK_PACKAGE_DESCRIPTION
-  "Trois Niveaux is a card game in French for one player against three computer\nseats. Each deal gives every seat 13 cards to lay on three levels of 5, 5 and\n3 cards, each level stronger than the next by poker order; every level is\nthen paid against the same level of the other seats. The computer plays by\nexhaustive search over all 72072 ways to lay its cards.\n\nThe package also holds troisniveaux-analyse, which shows on the command line\nthe layout the computer plays for a hand and replays a whole deal.")
+  "Trois Niveaux is a card game in French or English for one player against\nthree computer seats. Each deal gives every seat 13 cards to lay on three\nlevels of 5, 5 and 3 cards, each level stronger than the next by poker order;\nevery level is then paid against the same level of the other seats. The computer plays by\nexhaustive search over all 72072 ways to lay its cards.\n\nThe package also holds troisniveaux-analyse, which shows on the command line\nthe layout the computer plays for a hand and replays a whole deal.")
 set(CPACK_RESOURCE_FILE_LICENSE ${CMAKE_SOURCE_DIR}/LICENSE)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION games)

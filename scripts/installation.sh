@@ -28,6 +28,8 @@ for f in "usr/$binaires/troisniveaux" "usr/$binaires/troisniveaux-analyse" \
   "usr/share/applications/$id.desktop" "usr/share/metainfo/$id.metainfo.xml" \
   "usr/share/icons/hicolor/scalable/apps/$id.svg" "usr/share/icons/hicolor/48x48/apps/$id.png" \
   usr/share/man/man6/troisniveaux.6.gz usr/share/man/man6/troisniveaux-analyse.6.gz \
+  usr/share/man/fr/man6/troisniveaux.6.gz usr/share/man/fr/man6/troisniveaux-analyse.6.gz \
+  usr/share/troisniveaux/traductions/troisniveaux_en.qm \
   usr/share/doc/troisniveaux/copyright; do
   [[ -f "$dest/$f" ]] || { echo "manquant : /$f" >&2; exit 1; }
 done
@@ -35,6 +37,8 @@ desktop-file-validate "$dest/usr/share/applications/$id.desktop"
 appstreamcli validate --no-net "$dest/usr/share/metainfo/$id.metainfo.xml"
 jeu=$dest/usr/$binaires/troisniveaux
 "$jeu" --version
+# The installed translation is found from the installed program.
+"$jeu" --langue en --help | grep -q '^Usage:' || { echo "la traduction anglaise installée est introuvable" >&2; exit 1; }
 if "$jeu" --inconnue 2>/dev/null; then
   echo "une option inconnue est acceptée" >&2
   exit 1

@@ -12,6 +12,8 @@
 #include "core/table_state.h"
 #include "platform/qt/fenetre/fenetre_table.h"
 #include "platform/qt/bureau/identite.h"
+#include "platform/qt/bureau/langue.h"
+#include "platform/qt/bureau/messages.h"
 #include "platform/qt/bureau/ligne_de_commande.h"
 #include "platform/qt/panneaux/pages_web.h"
 #include "platform/qt/fenetre/plateforme_qt.h"
@@ -66,6 +68,7 @@ int main(int argc, char *argv[]) {
     return *fin;
   PrépareWebEngine();
   QApplication application(argc, argv);
+  ParleLangue(LangueDeDépart(LangueDeLaLigneDeCommande()));
   if (!PrépareDémarrage())
     return 1;
 
@@ -87,7 +90,7 @@ int main(int argc, char *argv[]) {
     if (table.ErreurDémarrage.empty())
       return 0; // the player refused the change of display mode
     if (QGuiApplication::platformName() != "offscreen")
-      QMessageBox::critical(nullptr, "TroisNiveaux", QString::fromStdString(table.ErreurDémarrage));
+      QMessageBox::critical(nullptr, "TroisNiveaux", TraduitMessage(table.ErreurDémarrage));
     return 1;
   }
   fenêtre.Synchronise();

@@ -1,3 +1,4 @@
+#include <QtGlobal>
 #include <utility>
 
 #include "showdown/abattage.h"
@@ -13,9 +14,16 @@ struct Classe {
   double limite;
   const char *texte;
 };
-constexpr Classe ClassesCinqCartes[] = {
-    {100, "RIEN"},  {200, "1 PAIRE"}, {350, "2 PAIRES"}, {380, "BRELAN"},         {500, "QUINTE"},
-    {600, "FLUSH"}, {1000, "FULL"},   {1500, "CARRE"},   {ValeurToutQuinte, "QF"}};
+// The names are shown in the player's language: marked for the translators.
+constexpr Classe ClassesCinqCartes[] = {{100, QT_TRANSLATE_NOOP("Table", "RIEN")},
+                                        {200, QT_TRANSLATE_NOOP("Table", "1 PAIRE")},
+                                        {350, QT_TRANSLATE_NOOP("Table", "2 PAIRES")},
+                                        {380, QT_TRANSLATE_NOOP("Table", "BRELAN")},
+                                        {500, QT_TRANSLATE_NOOP("Table", "QUINTE")},
+                                        {600, QT_TRANSLATE_NOOP("Table", "FLUSH")},
+                                        {1000, QT_TRANSLATE_NOOP("Table", "FULL")},
+                                        {1500, QT_TRANSLATE_NOOP("Table", "CARRE")},
+                                        {ValeurToutQuinte, QT_TRANSLATE_NOOP("Table", "QF")}};
 // Level 3 has no two pairs, and a three-card straight or flush counts
 // nowhere but in the special hands.
 constexpr Classe ClassesTroisCartes[] = {{100, "RIEN"}, {350, "1 PAIRE"}, {380, "BRELAN"}};

@@ -1,3 +1,5 @@
+#include <QtGlobal>
+
 #include "showdown/abattage.h"
 
 namespace abattage {
@@ -41,17 +43,17 @@ void MainsSpéciales(TroisNiveaux &t, ValeursJoueurs &v) {
     // Four separate tests, not a chain: a later one that holds overwrites
     // what an earlier one wrote, even with a lower value.
     if (t.MégaQuinte[s]) {
-      tient("MEGA QUINTE", ValeurMégaQuinte);
+      tient(QT_TRANSLATE_NOOP("Table", "MEGA QUINTE"), ValeurMégaQuinte);
       t.ToutFlush[s] = t.ToutQuinte[s] = false;
     }
     if (t.SixPaires[s])
-      tient("6 PAIRES", ValeurSixPaires);
+      tient(QT_TRANSLATE_NOOP("Table", "6 PAIRES"), ValeurSixPaires);
     if (t.ToutFlush[s]) {
-      tient("TOUT FLUSH", ValeurToutFlush);
+      tient(QT_TRANSLATE_NOOP("Table", "TOUT FLUSH"), ValeurToutFlush);
       t.ToutQuinte[s] = false;
     }
     if (t.ToutQuinte[s])
-      tient("TOUT QUINTE", ValeurToutQuinte);
+      tient(QT_TRANSLATE_NOOP("Table", "TOUT QUINTE"), ValeurToutQuinte);
   }
 }
 
@@ -65,7 +67,7 @@ void Validité(TroisNiveaux &t, ValeursJoueurs &v) {
                           v.ValeurJoueur2[3] > v.ValeurJoueur1[3];
   if (!enDésordre || t.MégaQuinte[3] || t.SixPaires[3] || t.ToutQuinte[3] || t.ToutFlush[3])
     return;
-  t.Fenêtre.ExtraLabel[3].Caption = "ERREUR !";
+  t.Fenêtre.ExtraLabel[3].Caption = QT_TRANSLATE_NOOP("Table", "ERREUR !");
   v.ValeurJoueur1[3] = v.ValeurJoueur2[3] = 0;
   v.ValeurJoueur3[3] = 0;
 }

@@ -1,5 +1,6 @@
 #include "table/controles.h"
 
+#include <QtGlobal>
 #include <string>
 
 #include "core/table_state.h"
@@ -58,6 +59,10 @@ constexpr int PositionPaie[4][4][2] = {
     {{15, 540}, {255, 180}, {445, 540}, {0, 0}},
 };
 
+const char *const NomsNiveaux[3] = {QT_TRANSLATE_NOOP("Table", "NIVEAU 1"),
+                                    QT_TRANSLATE_NOOP("Table", "NIVEAU 2"),
+                                    QT_TRANSLATE_NOOP("Table", "NIVEAU 3")};
+
 constexpr int PanneauxSièges[4][2] = {{60, 2415}, {4035, 60}, {8010, 2415}, {4035, 4800}};
 
 } // namespace
@@ -105,7 +110,7 @@ Contrôles::Contrôles() {
       const int niveau = 3 * s + 2 - r; // these run the other way round
       Étiquette(NiveauLabel[niveau], Indice("NiveauLabel", niveau), &SSPaie[p], 0, 855, 0, 240,
                 0x00FFFF, SansFond, Arial(9.75));
-      NiveauLabel[niveau].Caption = "NIVEAU " + std::to_string(r + 1);
+      NiveauLabel[niveau].Caption = NomsNiveaux[r];
       NiveauLabel[niveau].AjusteAuTexte = true;
 
       const int enchèreLeft[3] = {1800, 1800, 1440}, enchèreTop[3] = {3120, 1980, 840};
@@ -144,25 +149,29 @@ Contrôles::Contrôles() {
 
   // ---- Menu
   Panneau(MenuSS, "MenuSS", nullptr, 8010, 6600, 3945, 2355, 0x808080);
-  Bouton(NouveauJeu, "NouveauJeu", &MenuSS, 120, 120, 1800, 1545, "JOUER");
+  Bouton(NouveauJeu, "NouveauJeu", &MenuSS, 120, 120, 1800, 1545,
+         QT_TRANSLATE_NOOP("Table", "JOUER"));
   NouveauJeu.police = Arial(20.25);
-  Bouton(Scoresà0, "Scoresà0", &MenuSS, 1920, 120, 1935, 345, "SCORES A 0");
-  Bouton(NomsJoueurs, "NomsJoueurs", &MenuSS, 1920, 480, 1935, 345, "JOUEURS");
-  Bouton(Mode, "Mode", &MenuSS, 1920, 840, 1935, 345, "DEBUTANT");
+  Bouton(Scoresà0, "Scoresà0", &MenuSS, 1920, 120, 1935, 345,
+         QT_TRANSLATE_NOOP("Table", "SCORES A 0"));
+  Bouton(NomsJoueurs, "NomsJoueurs", &MenuSS, 1920, 480, 1935, 345,
+         QT_TRANSLATE_NOOP("Table", "JOUEURS"));
+  Bouton(Mode, "Mode", &MenuSS, 1920, 840, 1935, 345, QT_TRANSLATE_NOOP("Table", "DEBUTANT"));
   Mode.BackColor = 0x80C0FF;
-  Bouton(Rejoue, "Rejoue", &MenuSS, 1920, 1200, 1935, 345, "REJOUE");
-  Bouton(Arrêt, "Arrêt", &MenuSS, 1920, 1560, 1935, 345, "STOP");
-  Bouton(Fin, "Fin", &MenuSS, 1920, 1920, 1935, 345, "QUITTER");
+  Bouton(Rejoue, "Rejoue", &MenuSS, 1920, 1200, 1935, 345, QT_TRANSLATE_NOOP("Table", "REJOUE"));
+  Bouton(Arrêt, "Arrêt", &MenuSS, 1920, 1560, 1935, 345, QT_TRANSLATE_NOOP("Table", "STOP"));
+  Bouton(Fin, "Fin", &MenuSS, 1920, 1920, 1935, 345, QT_TRANSLATE_NOOP("Table", "QUITTER"));
   Bouton(VoirOrdi[0], "VoirOrdi(0)", &MenuSS, 120, 1680, 600, 600, "");
   VoirOrdi[0].Picture = ImageOrdinateur;
   VoirOrdi[0].Visible = false;
-  Bouton(VoirOrdi[1], "VoirOrdi(1)", &MenuSS, 120, 1680, 600, 600, "OK");
+  Bouton(VoirOrdi[1], "VoirOrdi(1)", &MenuSS, 120, 1680, 600, 600,
+         QT_TRANSLATE_NOOP("Table", "OK"));
   VoirOrdi[1].Visible = false;
   // The book lies over its OK button, so the book is what shows at first.
   Bouton(VoirRègles[1], "VoirRègles(1)", &MenuSS, 720, 1680, 600, 600, "OK");
   Bouton(VoirRègles[0], "VoirRègles(0)", &MenuSS, 720, 1680, 600, 600, "");
   VoirRègles[0].Picture = ImageLivre;
-  Bouton(Joue, "Joue", &MenuSS, 1320, 1680, 600, 600, "GO");
+  Bouton(Joue, "Joue", &MenuSS, 1320, 1680, 600, 600, QT_TRANSLATE_NOOP("Table", "GO"));
   Joue.Visible = false;
 
   // ---- Rules book
@@ -185,8 +194,10 @@ Contrôles::Contrôles() {
     NomsJoueursText[s].BackColor = CouleurSiège[s];
     NomsJoueursText[s].police = Arial(9.75);
   }
-  Bouton(EnregistreNoms, "EnregistreNoms", &NomsJoueursSS, 90, 1575, 2310, 330, "ENREGISTRE");
-  Bouton(AnnuleNoms, "AnnuleNoms", &NomsJoueursSS, 90, 1905, 2310, 330, "ANNULE");
+  Bouton(EnregistreNoms, "EnregistreNoms", &NomsJoueursSS, 90, 1575, 2310, 330,
+         QT_TRANSLATE_NOOP("Table", "ENREGISTRE"));
+  Bouton(AnnuleNoms, "AnnuleNoms", &NomsJoueursSS, 90, 1905, 2310, 330,
+         QT_TRANSLATE_NOOP("Table", "ANNULE"));
 
   // ---- Title picture
   Panneau(SSImage, "SSImage", nullptr, 555, 510, 2925, 1380, CouleurSystèmeFenêtre);
@@ -199,7 +210,8 @@ Contrôles::Contrôles() {
   // At 9.75 points the whole notice fits the label's 385 pixels.
   Étiquette(NonConnectéLbl, "NonConnectéLbl", &NonConnectéPic, 600, 1440, 5775, 375, 0xFFFFFF,
             0x000000, Arial(9.75), Alignement::Centre);
-  NonConnectéLbl.Caption = " Vous devez être connecté à internet pour utiliser ce logiciel";
+  NonConnectéLbl.Caption =
+      QT_TRANSLATE_NOOP("Table", " Vous devez être connecté à internet pour utiliser ce logiciel");
   Bouton(NonConnectéCmd, "NonConnectéCmd", &NonConnectéPic, 2640, 2280, 1695, 615, "OK");
   Panneau(LogoFondPic, "LogoFondPic", &NonConnectéPic, 2040, 360, 3000, 570, 0x0000FF);
   Place(LogoWeb, "LogoWeb", Genre::Web, &LogoFondPic, 0, 0, 3390, 900);

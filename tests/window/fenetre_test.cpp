@@ -1,12 +1,20 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QFile>
 #include <QImage>
 #include <QLineEdit>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QSettings>
 #include <QTest>
 #include <QTimer>
+#include <QXmlStreamReader>
 
+#include "platform/qt/bureau/langue.h"
+#include "platform/qt/bureau/messages.h"
 #include "platform/qt/fenetre/images.h"
+#include "platform/qt/fenetre/vue_controle.h"
 #include "table_essai.h"
 
 TEST(Fenêtre, LesContrôlesSontÀLeurPlaceEtDansLeursCouleurs) {
@@ -193,4 +201,118 @@ TEST(Images, LesCartesSontNettesÀToutRapport) {
   EXPECT_EQ(double_.size(), QSize(180, 270));
   EXPECT_NE(ImageBrute(4, QSize(90, 135), 1), ImageBrute(7, QSize(90, 135), 1)) << "6 and 9";
   EXPECT_NE(ImageBrute(13, QSize(90, 135), 1), ImageBrute(26, QSize(90, 135), 1)) << "♦ and ♥";
+}
+
+// Every text of the English file is translated, and keeps the place-holders
+// (%1, %2) its French has: a missing one would drop a name or a number.
+TEST(Langues, ChaqueTexteALaTraductionAnglaise) {
+  QFile fichier(TN_DOSSIER_I18N "/troisniveaux_en.ts");
+  ASSERT_TRUE(fichier.open(QIODevice::ReadOnly));
+  QXmlStreamReader xml(&fichier);
+  QString source;
+  int messages = 0;
+  const auto marques = [](const QString &texte) {
+    QStringList liste;
+    for (const auto &m : QRegularExpression("%\\d").globalMatch(texte))
+      liste << m.captured();
+    return liste.sort(), liste;
+  };
+  while (!xml.atEnd())
+    if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == u"source") {
+      source = xml.readElementText(QXmlStreamReader::IncludeChildElements);
+    } else if (xml.isStartElement() && xml.name() == u"translation") {
+      ++messages;
+      const bool finie = xml.attributes().value("type").isEmpty();
+      const QString traduction = xml.readElementText(QXmlStreamReader::IncludeChildElements);
+      EXPECT_TRUE(finie && !traduction.trimmed().isEmpty()) << source.toStdString();
+      EXPECT_EQ(marques(traduction), marques(source)) << source.toStdString();
+    }
+  EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
+  EXPECT_GT(messages, 60);
+}
+
+// In English every button's caption fits its button, the table small or
+// large, and every page of the book fits the book.
+TEST(Langues, EnAnglaisLesTextesTiennentDansLeurPlace) {
+  Table table;
+  ASSERT_TRUE(ParleLangue("en"));
+  auto &f = table.t.Fenêtre;
+  for (const double échelle : {1.0, 1.6, 2.5})
+    table.fenêtre.PourChaqueVue([&](const Contrôle &c, QWidget *) {
+      if (c.genre != Genre::Bouton || c.Caption.empty())
+        return;
+      const int place = Pixels(c.Width, échelle) - 4 * static_cast<int>(std::lround(échelle));
+      EXPECT_LE(QFontMetrics(PoliceQt(c.police, échelle)).horizontalAdvance(TexteAffiché(c)), place)
+          << c.Nom << " at " << échelle;
+    });
+  const QFont police = PoliceQt(f.AfficheRègles.police, 1);
+  const QRect livre(0, 0, Pixels(f.AfficheRègles.Width, 1) - 2, Pixels(f.AfficheRègles.Height, 1));
+  for (int page = 0; page < 14; ++page) {
+    f.AfficheRègles.Caption = table.t.TextesRègles[page];
+    EXPECT_LE(QFontMetrics(police)
+                  .boundingRect(livre, Qt::TextWordWrap, TexteAffiché(f.AfficheRègles))
+                  .height(),
+              livre.height())
+        << "page " << page + 1;
+  }
+  ParleLangue("fr");
+}
+
+// F12 changes the language at once, every text drawn again, and keeps the
+// choice; back in French the table is as it was, pixel for pixel.
+TEST(Langues, F12ChangeDeLangueEtRedessineTout) {
+  Table table;
+  auto &f = table.t.Fenêtre;
+  table.Clic(f.NouveauJeu);
+  table.Clic(f.Joue);
+  // The panels only: the stars move behind them.
+  const auto image = [&] {
+    return std::pair(table.Vue(f.MenuSS)->grab().toImage(),
+                     table.Vue(f.SSJoueur[3])->grab().toImage());
+  };
+  const auto français = image();
+  const int niveau = table.Vue(f.NiveauLabel[0])->width();
+  auto *fermer =
+      table.fenêtre.findChild<QWidget *>("panneauHistorique")->findChild<QPushButton *>();
+  ASSERT_NE(fermer, nullptr);
+  table.Touche(Qt::Key_F12);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(LangueParlée(), "en");
+  EXPECT_EQ(QSettings().value("langue").toString(), "en") << "kept for the next session";
+  EXPECT_EQ(TexteAffiché(f.NouveauJeu), "PLAY");
+  EXPECT_EQ(fermer->text(), "CLOSE");
+  EXPECT_EQ(table.Vue(f.NouveauJeu)->toolTip(), "PLAY — F2 key");
+  EXPECT_NE(table.Vue(f.NiveauLabel[0])->width(), niveau) << "LEVEL 1 is narrower";
+  const auto anglais = image();
+  EXPECT_TRUE(anglais.first != français.first && anglais.second != français.second);
+  table.Touche(Qt::Key_F12);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(LangueParlée(), "fr");
+  EXPECT_EQ(fermer->text(), "FERMER");
+  EXPECT_EQ(table.Vue(f.NouveauJeu)->toolTip(), "JOUER — touche F2");
+  EXPECT_TRUE(image() == français);
+  QSettings().remove("langue");
+}
+
+// The engine's messages as it writes them are told again in English, names,
+// paths and line numbers kept: a pattern that drifted from the engine's
+// French would leave them French.
+TEST(Langues, LesMessagesDuMoteurSeDisentEnAnglais) {
+  ASSERT_TRUE(ParleLangue("en"));
+  const std::tuple<const char *, const char *, const char *> cas[] = {
+      {"Scores", "0\r\n0\r\nx\r\n0\r\n", "The file “Scores” (%1): line 3 is not a whole number."},
+      {"Noms", "\"A\"\r\n", "The file “Noms” (%1) holds only one name instead of four."}};
+  for (const auto &[fichier, octets, attendu] : cas) {
+    DossierEssai dossier;
+    dossier.Écrit(fichier, octets);
+    Table::Plateforme plateforme;
+    plateforme.dossier = dossier.Chemin();
+    plateforme.dialogues = false;
+    TroisNiveaux t{plateforme};
+    t.Form_Load();
+    const QString chemin = QString::fromStdString(dossier.Chemin() + "/" + fichier);
+    EXPECT_EQ(TraduitMessage(t.ErreurDémarrage),
+              QString(attendu).arg(chemin) + " The game cannot start.");
+  }
+  ParleLangue("fr");
 }

@@ -6,6 +6,7 @@
 #include <cstdio>
 
 #include "platform/qt/bureau/dossier_donnees.h"
+#include "platform/qt/bureau/messages.h"
 #include "platform/qt/panneaux/pages_web.h"
 
 #ifndef TN_ID_APPLICATION
@@ -31,7 +32,9 @@ bool PrépareDémarrage() {
   PagesWeb::DéfinitDossierLocal(choix.pages);
   if (choix.erreur.isEmpty())
     return true;
-  const QString message = choix.erreur + " La partie ne peut pas commencer.";
+  const QString message =
+      TraduitMessage(choix.erreur) +
+      QCoreApplication::translate("Messages", " La partie ne peut pas commencer.");
   std::fprintf(stderr, "TroisNiveaux : %s\n", message.toLocal8Bit().constData());
   if (QGuiApplication::platformName() != "offscreen")
     QMessageBox::critical(nullptr, "TroisNiveaux", message);

@@ -1,8 +1,12 @@
 #pragma once
-// The game's command line: --help and --version, nothing else. Read before
-// the application object exists, so both answer without a display.
+// The game's command line: --langue, --help and --version, nothing else.
+// Read before the application object exists, so help and version answer
+// without a display.
+#include <QString>
 #include <optional>
 
 // The exit status when the program is to end here (0 after --help or
 // --version, 2 for anything else), or nothing when the game is to start.
 std::optional<int> TraiteLigneDeCommande(int argc, const char *const argv[]);
+// The language asked for by --langue, empty when none was.
+QString LangueDeLaLigneDeCommande();

@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
@@ -10,6 +11,7 @@
 #include "core/table_state.h"
 #include "platform/qt/fenetre/fenetre_table.h"
 #include "platform/qt/fenetre/plateforme_qt.h"
+#include "platform/qt/fenetre/vue_controle.h"
 
 namespace {
 
@@ -92,17 +94,54 @@ Clavier::Clavier(FenêtreTable &fenêtre, TroisNiveaux &t, PlateformeQt &platefo
       return true;
     });
 
-  fenêtre.Vue(f.Joue)->setToolTip("GO — touche " + NomDeTouche(Qt::Key_Return));
-  fenêtre.Vue(f.VoirOrdi[0])->setToolTip("Solution de l'ordinateur — touche F7");
-  fenêtre.Vue(f.VoirRègles[0])->setToolTip("Règles du jeu — touche F1");
-  fenêtre.Vue(f.TextScroll[0])->setToolTip("Page précédente — touche Page préc.");
-  fenêtre.Vue(f.TextScroll[1])->setToolTip("Page suivante — touche Page suiv.");
-  const QString presse = "L'ordinateur cherche : un clic ici ou la touche " +
-                         NomDeTouche(Qt::Key_Return) + " lui fait finir sa recherche sans attendre";
-  for (const Contrôle *c : {&f.TempsSS, &f.TempsFondSS, &f.TempsShape, &f.TempsLabel})
-    fenêtre.Vue(*c)->setToolTip(presse);
+  BullesParticulières();
   OrdreDeTabulation();
   qApp->installEventFilter(this);
+}
+
+// The tooltips that say more than a button's name and its key.
+void Clavier::BullesParticulières() {
+  auto &f = t.Fenêtre;
+  const QString touche = QCoreApplication::translate("Clavier", "touche %1");
+  fenêtre.Vue(f.Joue)->setToolTip("GO — " + touche.arg(NomDeTouche(Qt::Key_Return)));
+  fenêtre.Vue(f.VoirOrdi[0])
+      ->setToolTip(QCoreApplication::translate("Clavier", "Solution de l'ordinateur") + " — " +
+                   touche.arg("F7"));
+  fenêtre.Vue(f.VoirRègles[0])
+      ->setToolTip(QCoreApplication::translate("Clavier", "Règles du jeu") + " — " +
+                   touche.arg("F1"));
+  fenêtre.Vue(f.TextScroll[0])
+      ->setToolTip(QCoreApplication::translate("Clavier", "Page précédente") + " — " +
+                   touche.arg(NomDeTouche(Qt::Key_PageUp)));
+  fenêtre.Vue(f.TextScroll[1])
+      ->setToolTip(QCoreApplication::translate("Clavier", "Page suivante") + " — " +
+                   touche.arg(NomDeTouche(Qt::Key_PageDown)));
+  const QString presse =
+      QCoreApplication::translate("Clavier", "L'ordinateur cherche : un clic ici ou la touche %1 "
+                                             "lui fait finir sa recherche sans attendre")
+          .arg(NomDeTouche(Qt::Key_Return));
+  for (const Contrôle *c : {&f.TempsSS, &f.TempsFondSS, &f.TempsShape, &f.TempsLabel})
+    fenêtre.Vue(*c)->setToolTip(presse);
+}
+
+// Another language: every tooltip is written again, in the order it first was.
+bool Clavier::event(QEvent *e) {
+  if (e->type() == QEvent::LanguageChange) {
+    for (const auto &[contrôle, touche] : bulles)
+      fenêtre.Vue(*contrôle)->setToolTip({});
+    for (const auto &[contrôle, touche] : bulles)
+      Bulle(*contrôle, touche);
+    BullesParticulières();
+  }
+  return QObject::event(e);
+}
+
+void Clavier::Bulle(const Contrôle &c, QKeyCombination touche) {
+  QWidget *vue = fenêtre.Vue(c);
+  const QString nom = c.Caption.empty() ? QString() : TexteAffiché(c) + " — ";
+  if (vue && vue->toolTip().isEmpty())
+    vue->setToolTip(nom +
+                    QCoreApplication::translate("Clavier", "touche %1").arg(NomDeTouche(touche)));
 }
 
 void Clavier::Ajoute(QKeyCombination touche, std::function<bool()> action) {
@@ -121,12 +160,8 @@ void Clavier::AjoutePourContrôles(
     return false;
   });
   for (const auto &cible : cibles) {
-    QWidget *vue = fenêtre.Vue(*cible.first);
-    const QString nom = cible.first->Caption.empty()
-                            ? QString()
-                            : QString::fromStdString(cible.first->Caption) + " — ";
-    if (vue && vue->toolTip().isEmpty())
-      vue->setToolTip(nom + "touche " + NomDeTouche(touche));
+    bulles.emplace_back(cible.first, touche);
+    Bulle(*cible.first, touche);
   }
 }
 
@@ -135,19 +170,19 @@ QString Clavier::NomDeTouche(QKeyCombination touche) {
   switch (touche.key()) {
   case Qt::Key_Return:
   case Qt::Key_Enter:
-    nom = "Entrée";
+    nom = QCoreApplication::translate("Clavier", "Entrée");
     break;
   case Qt::Key_Escape:
-    nom = "Échap";
+    nom = QCoreApplication::translate("Clavier", "Échap");
     break;
   case Qt::Key_Space:
-    nom = "Espace";
+    nom = QCoreApplication::translate("Clavier", "Espace");
     break;
   case Qt::Key_PageUp:
-    nom = "Page préc.";
+    nom = QCoreApplication::translate("Clavier", "Page préc.");
     break;
   case Qt::Key_PageDown:
-    nom = "Page suiv.";
+    nom = QCoreApplication::translate("Clavier", "Page suiv.");
     break;
   case Qt::Key_Tab:
     nom = "Tab";
@@ -156,7 +191,7 @@ QString Clavier::NomDeTouche(QKeyCombination touche) {
     nom = QKeySequence(touche.key()).toString(QKeySequence::PortableText);
   }
   if (touche.keyboardModifiers() & Qt::ShiftModifier)
-    nom = "Maj+" + nom;
+    nom = QCoreApplication::translate("Clavier", "Maj+") + nom;
   if (touche.keyboardModifiers() & Qt::ControlModifier)
     nom = "Ctrl+" + nom;
   return nom;

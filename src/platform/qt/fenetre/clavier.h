@@ -50,11 +50,12 @@ public:
   void AprèsSynchronisation();
 
   // How a key is written in the table's tooltips: the names of a French
-  // keyboard ("Échap", "Entrée").
+  // keyboard ("Échap", "Entrée"), or of the language spoken.
   static QString NomDeTouche(QKeyCombination touche);
 
 protected:
   bool eventFilter(QObject *objet, QEvent *e) override;
+  bool event(QEvent *e) override;
 
 private:
   FenêtreTable &fenêtre;
@@ -75,6 +76,10 @@ private:
   int place = 0;
   bool panneauOuvert = false;
 
+  // The controls whose tooltip names their key, in the order they were added.
+  std::vector<std::pair<const Contrôle *, QKeyCombination>> bulles;
+  void Bulle(const Contrôle &c, QKeyCombination touche);
+  void BullesParticulières();
   bool Saisie() const;
   bool CartesVivantes() const;
   void DéplaceCadre(int dx, int dy);

@@ -18,6 +18,7 @@
 #include "platform/qt/fenetre/fond_etoile.h"
 #include "platform/qt/panneaux/panneau_historique.h"
 #include "platform/qt/fenetre/plateforme_qt.h"
+#include "platform/qt/bureau/langue.h"
 #include "platform/qt/bureau/reglages.h"
 #include "platform/qt/fenetre/vue_controle.h"
 
@@ -37,6 +38,11 @@ FenêtreTable::FenêtreTable(TroisNiveaux &table, PlateformeQt &plateforme)
   InstalleChoixDuJeu(this);
   clavier->Ajoute(Qt::Key_F8, [this] {
     JeuSuivant(this);
+    return true;
+  });
+  // F12: the next language the game speaks, kept for the next session.
+  clavier->Ajoute(Qt::Key_F12, [] {
+    LangueSuivante();
     return true;
   });
   PanneauHistorique *historique = InstalleHistorique(this, t);

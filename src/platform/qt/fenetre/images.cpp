@@ -1,12 +1,14 @@
 #include "platform/qt/fenetre/images.h"
 
 #include <QCache>
+#include <QCoreApplication>
 #include <QFont>
 #include <QPainter>
 #include <QPainterPath>
 #include <cmath>
 #include <tuple>
 
+#include "platform/qt/bureau/langue.h"
 #include "platform/qt/jeux/jeux_de_cartes.h"
 #include "table/controles.h"
 
@@ -77,7 +79,11 @@ QPainterPath Couleur(int couleur, qreal x, qreal y, qreal t) {
   return p;
 }
 
-const char *const Rangs[13] = {"2", "3", "4", "5", "6", "7", "8", "9", "10", "V", "D", "R", "A"};
+// The court cards' letters are those of the language spoken.
+const char *const Rangs[13] = {
+    "2", "3", "4", "5", "6", "7", "8", "9", "10", QT_TRANSLATE_NOOP("Cartes", "V"),
+    QT_TRANSLATE_NOOP("Cartes", "D"), QT_TRANSLATE_NOOP("Cartes", "R"),
+    QT_TRANSLATE_NOOP("Cartes", "A")};
 
 // Where the pips of ranks 2..10 stand, in a 3 x 7 grid of the card's middle.
 const std::vector<QPointF> &Pips(int rang) {
@@ -115,7 +121,7 @@ void Coin(QPainter &p, const QString &rang, int couleur, const QColor &teinte, q
 void Face(QPainter &p, int code, qreal l, qreal h) {
   const int rang = code % 13, couleur = code / 13;
   const QColor teinte = couleur == 1 || couleur == 2 ? Rouge : Noir;
-  const QString texte = Rangs[rang];
+  const QString texte = QCoreApplication::translate("Cartes", Rangs[rang]);
   for (int demiTour = 0; demiTour < 2; ++demiTour) {
     p.save();
     if (demiTour) { // the lower corners are the upper ones turned about
@@ -299,8 +305,12 @@ QPixmap Image(int index, QSize taille, qreal ratio) {
   // Bounded, since a window dragged through many sizes leaves a set of
   // pictures at each one; in kilobytes, room for the table at a few sizes.
   static QCache<QString, QPixmap> cache(64 * 1024);
-  const QString clé =
-      QString("%1/%2x%3/%4").arg(index).arg(taille.width()).arg(taille.height()).arg(ratio);
+  const QString clé = QString("%1/%2x%3/%4/%5")
+                          .arg(index)
+                          .arg(taille.width())
+                          .arg(taille.height())
+                          .arg(ratio)
+                          .arg(LangueParlée());
   if (const QPixmap *trouvée = cache.object(clé))
     return *trouvée;
   QPixmap image = QPixmap::fromImage(ImageBrute(index, taille, ratio));

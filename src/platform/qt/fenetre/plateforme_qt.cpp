@@ -10,6 +10,7 @@
 
 #include "core/table_state.h"
 #include "platform/qt/bureau/affichage.h"
+#include "platform/qt/bureau/messages.h"
 #include "platform/qt/panneaux/dialogue_resolution.h"
 #include "platform/qt/bureau/dossier_donnees.h"
 #include "platform/qt/panneaux/pages_web.h"
@@ -105,12 +106,12 @@ void PlateformeQt::Navigue(VueWeb vue, const std::string &adresse) {
 }
 
 void PlateformeQt::SignaleErreur(const std::string &message) {
-  std::fprintf(stderr, "TroisNiveaux : %s\n", message.c_str());
+  const QString traduit = TraduitMessage(message);
+  std::fprintf(stderr, "TroisNiveaux : %s\n", traduit.toUtf8().constData());
   if (!dialogues)
     return;
   // Not modal: the game goes on behind the message.
-  auto *boîte =
-      new QMessageBox(QMessageBox::Warning, "TroisNiveaux", QString::fromStdString(message));
+  auto *boîte = new QMessageBox(QMessageBox::Warning, "TroisNiveaux", traduit);
   boîte->setAttribute(Qt::WA_DeleteOnClose);
   boîte->setModal(false);
   boîte->show();

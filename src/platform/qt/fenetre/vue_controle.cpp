@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QChildEvent>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -44,7 +45,31 @@ QString Texte(const std::string &s) {
   return texte;
 }
 
+// The game's French is the key of its translation. The players' names are
+// their own: a player called "JOUER" keeps his name in every language.
+QString TexteAffiché(const Contrôle &c) {
+  if (c.Caption.empty() || c.Nom.starts_with("JoueursLabel"))
+    return Texte(c.Caption);
+  const char *contexte = c.Nom == "AfficheRègles" ? "Regles" : "Table";
+  QString texte = QCoreApplication::translate(contexte, c.Caption.c_str());
+  texte.replace('\r', '\n');
+  return texte;
+}
+
 namespace {
+
+// A translation may be longer than the French the control was drawn for: it
+// then takes a smaller font rather than losing its ends. The French is never
+// touched.
+QFont PoliceQuiTient(const Contrôle &m, const QString &texte, int place, double échelle) {
+  QFont f = PoliceQt(m.police, échelle);
+  if (m.RetourLigne || m.AjusteAuTexte || texte.contains('\n') || texte == Texte(m.Caption))
+    return f;
+  const int largeur = QFontMetrics(f).horizontalAdvance(texte);
+  if (largeur > place && place > 0)
+    f.setPixelSize(std::max(1, f.pixelSize() * place / largeur));
+  return f;
+}
 
 // Names go to a file in Windows-1252, one a line between double quotes: what
 // it cannot carry back (a quote, a line break, a character outside that code)
@@ -138,7 +163,7 @@ QRect VueContrôle::Géométrie() const {
   int largeur = Pixels(m.Width, échelle);
   int gauche = Pixels(m.Left, échelle);
   if (m.AjusteAuTexte) {
-    largeur = QFontMetrics(PoliceQt(m.police, échelle)).horizontalAdvance(Texte(m.Caption)) + 2;
+    largeur = QFontMetrics(PoliceQt(m.police, échelle)).horizontalAdvance(TexteAffiché(m)) + 2;
     // A right-aligned label keeps its right edge and grows to the left.
     if (m.alignement == Alignement::Droite)
       gauche = Pixels(m.Left + 240, échelle) - largeur;
@@ -169,6 +194,9 @@ void VueContrôle::PlaceÉtrangers() {
 }
 
 bool VueContrôle::event(QEvent *e) {
+  // Another language: the texts, and the labels that fit their text, anew.
+  if (e->type() == QEvent::LanguageChange)
+    ChangeÉchelle();
   // A foreign widget (a web view) is placed by its maker at the designed
   // size before it is shown; from its first polish on it follows the scale.
   if (e->type() == QEvent::ChildPolished) {
@@ -243,13 +271,14 @@ void VueContrôle::paintEvent(QPaintEvent *) {
       p.setBrush(Qt::NoBrush);
       p.drawRect(QRectF(rect()).adjusted(trait / 2.0, trait / 2.0, -trait / 2.0, -trait / 2.0));
     }
-    p.setFont(PoliceQt(m.police, échelle));
+    const QString texte = TexteAffiché(m);
+    p.setFont(PoliceQuiTient(m, texte, width() - 2, échelle));
     p.setPen(Couleur(m.ForeColor, palette));
     int drapeaux = m.alignement == Alignement::Centre   ? Qt::AlignHCenter
                    : m.alignement == Alignement::Droite ? Qt::AlignRight
                                                         : Qt::AlignLeft;
     drapeaux |= m.RetourLigne ? Qt::TextWordWrap | Qt::AlignTop : Qt::AlignVCenter;
-    p.drawText(rect().adjusted(1, 0, -1, 0), drapeaux, Texte(m.Caption));
+    p.drawText(rect().adjusted(1, 0, -1, 0), drapeaux, texte);
     break;
   }
   case Genre::Web:
@@ -293,14 +322,15 @@ void VueContrôle::Bouton(QPainter &p) {
     p.setOpacity(1.0);
     return;
   }
-  p.setFont(PoliceQt(m.police, échelle));
+  const QString texte = TexteAffiché(m);
+  p.setFont(PoliceQuiTient(m, texte, width() - 4 * e, échelle));
   const QRect zone = r.translated(décalage);
   if (!m.Enabled) {
     p.setPen(clair);
-    p.drawText(zone.translated(e, e), Qt::AlignCenter, Texte(m.Caption));
+    p.drawText(zone.translated(e, e), Qt::AlignCenter, texte);
     p.setPen(QColor(128, 128, 128));
   } else {
     p.setPen(Qt::black);
   }
-  p.drawText(zone, Qt::AlignCenter, Texte(m.Caption));
+  p.drawText(zone, Qt::AlignCenter, texte);
 }

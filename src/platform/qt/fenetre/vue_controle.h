@@ -19,6 +19,8 @@ QColor Couleur(uint32_t bgr, const QPalette &palette);
 // in pixels the layout does not depend on the screen's own dpi.
 QFont PoliceQt(const Police &p, double échelle);
 QString Texte(const std::string &s);
+// The control's caption as shown, in the language the game speaks.
+QString TexteAffiché(const Contrôle &c);
 
 class VueContrôle : public QWidget {
 public:

@@ -142,7 +142,8 @@ void JeuSuivant(QWidget *fenêtre) {
   auto *étiquette = static_cast<ÉtiquetteNom *>(ÉtiquetteDuJeu(fenêtre));
   const int nombre = static_cast<int>(jeux::Installés().size());
   if (nombre == 0) {
-    étiquette->Montre("Jeu de TroisNiveaux : aucun autre jeu de cartes installé");
+    étiquette->Montre(QCoreApplication::translate(
+        "Jeux", "Jeu de TroisNiveaux : aucun autre jeu de cartes installé"));
     return;
   }
   curseur = (curseur + 1) % (nombre + 1);
@@ -153,7 +154,9 @@ void JeuSuivant(QWidget *fenêtre) {
   jeux::Choisit(numéro, [numéro, nom, suivie](bool réussi) {
     jeux::Retient(réussi ? numéro : 0);
     if (!réussi && suivie)
-      suivie->Montre("Le jeu « " + nom + " » ne peut pas être lu : jeu de TroisNiveaux");
+      suivie->Montre(QCoreApplication::translate(
+                         "Jeux", "Le jeu « %1 » ne peut pas être lu : jeu de TroisNiveaux")
+                         .arg(nom));
   });
 }
 

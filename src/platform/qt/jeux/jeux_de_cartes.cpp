@@ -1,6 +1,7 @@
 #include "platform/qt/jeux/jeux_de_cartes.h"
 
 #include "platform/qt/fenetre/images.h"
+#include "platform/qt/bureau/langue.h"
 #include "platform/qt/bureau/reglages.h"
 
 #include <QCoreApplication>
@@ -39,7 +40,8 @@ std::optional<JeuDeCartes> LitJeu(const QString &dossier) {
   QFile index(QDir(dossier).filePath("index.desktop"));
   if (!index.open(QIODevice::ReadOnly | QIODevice::Text) || index.size() > 256 * 1024)
     return std::nullopt;
-  QString nom, nomFrançais, svg;
+  QString svg;
+  QMap<QString, QString> noms; // by language, "" for the name without one
   bool dansLeGroupe = false;
   for (const QString &brute : QString::fromUtf8(index.readAll()).split('\n')) {
     const QString ligne = brute.trimmed();
@@ -55,9 +57,9 @@ std::optional<JeuDeCartes> LitJeu(const QString &dossier) {
       continue;
     const QString clé = ligne.left(égal).trimmed(), valeur = ligne.mid(égal + 1).trimmed();
     if (clé == "Name")
-      nom = valeur;
-    else if (clé == "Name[fr]")
-      nomFrançais = valeur;
+      noms.insert("", valeur);
+    else if (clé.startsWith("Name[") && clé.endsWith(']'))
+      noms.insert(clé.mid(5, clé.size() - 6), valeur);
     else if (clé == "SVG")
       svg = valeur;
   }
@@ -69,7 +71,9 @@ std::optional<JeuDeCartes> LitJeu(const QString &dossier) {
     return std::nullopt;
   JeuDeCartes jeu;
   jeu.id = QDir(dossier).dirName();
-  jeu.nom = !nomFrançais.isEmpty() ? nomFrançais : !nom.isEmpty() ? nom : jeu.id;
+  const QString français = noms.value("fr"), sansLangue = noms.value("");
+  jeu.nom = !français.isEmpty() ? français : !sansLangue.isEmpty() ? sansLangue : jeu.id;
+  jeu.noms = noms;
   jeu.fichier = fichier;
   return jeu;
 }
@@ -285,9 +289,16 @@ const std::vector<JeuDeCartes> &Installés() {
 int Choisi() { return état().choisi; }
 
 QString NomDuChoix(int numéro) {
-  if (numéro >= 1 && numéro <= static_cast<int>(Installés().size()))
-    return Installés()[numéro - 1].nom;
-  return "Jeu de TroisNiveaux";
+  if (numéro >= 1 && numéro <= static_cast<int>(Installés().size())) {
+    // In another language than French, the deck's name in it, else its
+    // name without a language (English, in the decks of the desktop).
+    const JeuDeCartes &jeu = Installés()[numéro - 1];
+    for (const QString &langue : {LangueParlée(), QString()})
+      if (LangueParlée() != "fr" && !jeu.noms.value(langue).isEmpty())
+        return jeu.noms.value(langue);
+    return jeu.nom;
+  }
+  return QCoreApplication::translate("Jeux", "Jeu de TroisNiveaux");
 }
 
 void Choisit(int numéro, std::function<void(bool)> prêt) {

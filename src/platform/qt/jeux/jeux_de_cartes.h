@@ -7,6 +7,7 @@
 
 #include <QImage>
 #include <QPixmap>
+#include <QMap>
 #include <QSize>
 #include <QString>
 #include <QStringList>
@@ -17,6 +18,7 @@
 struct JeuDeCartes {
   QString id;      // the folder's name, e.g. "svg-oxygen": what the settings keep
   QString nom;     // the name to show, in French where the deck has one
+  QMap<QString, QString> noms; // Name[xx] by language xx, "" for Name
   QString fichier; // the SVG or SVGZ file
 };
 

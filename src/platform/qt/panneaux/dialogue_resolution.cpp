@@ -1,5 +1,6 @@
 #include "platform/qt/panneaux/dialogue_resolution.h"
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <QLabel>
 #include <QPainter>
@@ -32,7 +33,7 @@ public:
     pages = std::make_unique<PagesWeb>(nullptr, nullptr, logoWeb);
     pages->Navigue(VueWeb::LogoWeb, "logomdc200.htm");
     const auto étiquette = [this](const char *texte, int top) {
-      auto *l = new QLabel(QString::fromUtf8(texte), this);
+      auto *l = new QLabel(QCoreApplication::translate("Resolution", texte), this);
       l->setGeometry(8, top, 306, 17);
       l->setAlignment(Qt::AlignCenter);
       QFont f("Liberation Sans");
@@ -41,10 +42,10 @@ public:
       l->setFont(f);
       l->setStyleSheet("color: white");
     };
-    étiquette("La résolution doit être changée en 1024 X 768", 56);
-    étiquette("Elle sera restituée en sortant du programme", 72);
+    étiquette(QT_TRANSLATE_NOOP("Resolution", "La résolution doit être changée en 1024 X 768"), 56);
+    étiquette(QT_TRANSLATE_NOOP("Resolution", "Elle sera restituée en sortant du programme"), 72);
     const auto bouton = [this](const char *texte, int left, uint32_t couleur) {
-      auto *b = new QPushButton(QString::fromUtf8(texte), this);
+      auto *b = new QPushButton(QCoreApplication::translate("Resolution", texte), this);
       b->setGeometry(left, 96, 140, 33);
       QFont f("Liberation Sans");
       f.setPixelSize(12); // the longer caption fits its button
@@ -57,9 +58,9 @@ public:
                            .arg(c));
       return b;
     };
-    connect(bouton("Je suis d'accord", 165, 0xC0FFC0), &QPushButton::clicked, this,
+    connect(bouton(QT_TRANSLATE_NOOP("Resolution", "Je suis d'accord"), 165, 0xC0FFC0), &QPushButton::clicked, this,
             &QDialog::accept);
-    connect(bouton("Je ne suis pas d'accord", 16, 0xC0C0FF), &QPushButton::clicked, this,
+    connect(bouton(QT_TRANSLATE_NOOP("Resolution", "Je ne suis pas d'accord"), 16, 0xC0C0FF), &QPushButton::clicked, this,
             &QDialog::reject);
   }
 

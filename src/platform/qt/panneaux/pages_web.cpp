@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QEvent>
+#include <QFileInfo>
 #include <QLoggingCategory>
 #include <QNetworkAccessManager>
 #include <QPointer>
@@ -13,6 +15,7 @@
 #include <functional>
 #include <unistd.h>
 
+#include "platform/qt/bureau/langue.h"
 #include "platform/qt/panneaux/vue_texte.h"
 
 #ifdef TN_WEBENGINE
@@ -47,6 +50,39 @@ QString DossierLocal() {
                              "/")
       .toString();
 }
+
+// The game's own page in the language spoken when it is there ("pub1-en.htm");
+// a server's pages are its own affair.
+QString PageDansLaLangue(const std::string &page) {
+  const QString nom = QString::fromStdString(page);
+  if (LangueParlée() == QLatin1String("fr") || PagesWeb::Base() != DossierLocal())
+    return nom;
+  const QFileInfo fichier(nom);
+  const QString traduite =
+      fichier.completeBaseName() + "-" + LangueParlée() + "." + fichier.suffix();
+  return QFileInfo::exists(QUrl(DossierLocal() + traduite).toLocalFile()) ? traduite : nom;
+}
+
+// Opens the panel's page again when the game changes its language.
+class SuitLaLangue : public QObject {
+public:
+  SuitLaLangue(QWidget *panneau, std::function<void()> recharge)
+      : QObject(panneau), recharge(std::move(recharge)) {
+    setObjectName(Nom);
+  }
+  // Found by its name: the class has no meta-object of its own.
+  static constexpr char Nom[] = "tnSuitLaLangue";
+
+protected:
+  bool event(QEvent *e) override {
+    if (e->type() == QEvent::LanguageChange)
+      recharge();
+    return QObject::event(e);
+  }
+
+private:
+  std::function<void()> recharge;
+};
 
 // View geometry in pixels, relative to its panel (twips / 15).
 QRect Géométrie(VueWeb vue) {
@@ -179,6 +215,9 @@ PagesWeb::PagesWeb(QWidget *panneauPub0, QWidget *panneauPub1, QWidget *panneauL
 }
 
 PagesWeb::~PagesWeb() {
+  for (auto &panneau : détail->panneaux)
+    if (panneau)
+      delete panneau->findChild<QObject *>(SuitLaLangue::Nom, Qt::FindDirectChildrenOnly);
 #ifdef TN_WEBENGINE
   delete détail->guetteur.data();
   for (auto &vue : détail->vues)
@@ -199,7 +238,10 @@ void PagesWeb::Navigue(VueWeb vue, const std::string &page) {
   if (!panneau)
     return;
   const QUrl adresse(vue == VueWeb::LogoWeb ? DossierLocal() + QString::fromStdString(page)
-                                            : Base() + QString::fromStdString(page));
+                                            : Base() + PageDansLaLangue(page));
+  if (vue != VueWeb::LogoWeb &&
+      !panneau->findChild<QObject *>(SuitLaLangue::Nom, Qt::FindDirectChildrenOnly))
+    new SuitLaLangue(panneau, [this, vue, page] { Navigue(vue, page); });
 #ifdef TN_WEBENGINE
   détail->enAttente[n] = adresse;
   if (!détail->guetteur)

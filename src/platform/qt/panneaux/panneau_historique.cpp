@@ -28,8 +28,9 @@ const QColor Texte(235, 235, 235);
 
 QString Moyenne(double x) {
   QString texte = QString::number(x, 'f', 2);
-  texte.replace('.', ',');
-  return texte == "-0,00" ? "0,00" : texte;
+  if (texte == "-0.00")
+    texte = "0.00";
+  return texte.replace('.', QCoreApplication::translate("Historique", ",", "decimal separator"));
 }
 
 QFont PolicePixels(qreal pixels, bool gras = false) {
@@ -54,17 +55,33 @@ double Pas(double étendue, int voulu) {
 
 PanneauHistorique::PanneauHistorique(TroisNiveaux &t, QWidget *fenêtre) : QWidget(fenêtre), t(t) {
   setObjectName("panneauHistorique");
-  // The chart and the table are painted: a screen reader gets the panel's
-  // name and its figures in words.
-  setAccessibleName("Historique des scores");
   // Opaque: the stars moving under it cost no repaint of the chart.
   setAttribute(Qt::WA_OpaquePaintEvent);
-  fermer = new QPushButton("FERMER", this);
-  fermer->setToolTip("Fermer l'historique — touche F9");
+  fermer = new QPushButton(this);
+  // The chart and the table are painted: a screen reader gets the panel's
+  // name and its figures in words.
+  Nomme();
   fermer->setFocusPolicy(Qt::NoFocus);
   connect(fermer, &QPushButton::clicked, this, &QWidget::hide);
   fenêtre->installEventFilter(this);
   hide();
+}
+
+void PanneauHistorique::Nomme() {
+  setAccessibleName(QCoreApplication::translate("Historique", "Historique des scores"));
+  fermer->setText(QCoreApplication::translate("Historique", "FERMER"));
+  fermer->setToolTip(QCoreApplication::translate("Historique", "Fermer l'historique — touche F9"));
+}
+
+// Another language: the button, and the table's heads when it is open.
+void PanneauHistorique::changeEvent(QEvent *e) {
+  if (e->type() == QEvent::LanguageChange) {
+    Nomme();
+    if (isVisible())
+      Lit();
+    update();
+  }
+  QWidget::changeEvent(e);
 }
 
 void PanneauHistorique::Bascule() {
@@ -81,7 +98,12 @@ void PanneauHistorique::Bascule() {
 void PanneauHistorique::Lit() {
   lecture = historique::Lit();
   figures = historique::Calcule(lecture.entrées);
-  tableau.assign(1, {"Joueur", "Donnes", "Moyenne", "Meilleure", "Pire", "Score"});
+  tableau.assign(1, {QCoreApplication::translate("Historique", "Joueur"),
+                     QCoreApplication::translate("Historique", "Donnes"),
+                     QCoreApplication::translate("Historique", "Moyenne"),
+                     QCoreApplication::translate("Historique", "Meilleure"),
+                     QCoreApplication::translate("Historique", "Pire"),
+                     QCoreApplication::translate("Historique", "Score")});
   for (int s = 0; s <= 3; ++s) {
     const historique::FiguresSiège &f = figures.sièges[s];
     const bool vide = f.donnes == 0;
@@ -154,7 +176,7 @@ void PanneauHistorique::Dessine() {
   p.setFont(PolicePixels(h * 0.045, true));
   p.setPen(Texte);
   p.drawText(QRectF(marge, marge * 0.6, l - 2 * marge, h * 0.07), Qt::AlignLeft | Qt::AlignVCenter,
-             "HISTORIQUE DES SCORES");
+             QCoreApplication::translate("Historique", "HISTORIQUE DES SCORES"));
 
   // The entries shown: the last deals, with the resets among them.
   std::vector<const historique::Entrée *> montrées;
@@ -170,14 +192,19 @@ void PanneauHistorique::Dessine() {
   p.setFont(PolicePixels(h * 0.026));
   p.drawText(QRectF(marge, marge * 0.6, l - 2 * marge, h * 0.07), Qt::AlignRight | Qt::AlignVCenter,
              donnes == 0 ? QString()
-                         : QString("donnes %1 à %2").arg(premièreDonne).arg(figures.donnes));
+                         : QCoreApplication::translate("Historique", "donnes %1 à %2")
+                               .arg(premièreDonne)
+                               .arg(figures.donnes));
 
   const QRectF graphe(marge + h * 0.09, h * 0.12, l - 2 * marge - h * 0.09 - l * 0.17, h * 0.44);
   if (montrées.empty()) {
     p.setFont(PolicePixels(h * 0.035));
-    p.drawText(graphe, Qt::AlignCenter,
-               lecture.trouvé ? "Aucune donne dans l'historique."
-                              : "Pas encore d'historique : il commence à la prochaine donne.");
+    p.drawText(
+        graphe, Qt::AlignCenter,
+        lecture.trouvé
+            ? QCoreApplication::translate("Historique", "Aucune donne dans l'historique.")
+            : QCoreApplication::translate(
+                  "Historique", "Pas encore d'historique : il commence à la prochaine donne."));
   } else {
     double bas = 0, haut = 0;
     for (const auto *e : montrées)
@@ -216,7 +243,7 @@ void PanneauHistorique::Dessine() {
         p.drawLine(QPointF(X(i), graphe.top()), QPointF(X(i), graphe.bottom()));
         p.setPen(QColor(255, 150, 150));
         p.drawText(QRectF(X(i) - h * 0.1, graphe.top() - h * 0.035, h * 0.2, h * 0.03),
-                   Qt::AlignCenter, "SCORES A 0");
+                   Qt::AlignCenter, QCoreApplication::translate("Table", "SCORES A 0"));
         continue;
       }
       if ((numéro - 1) % pasDonnes == 0 || n == 1) {
@@ -290,7 +317,8 @@ void PanneauHistorique::Dessine() {
     p.setPen(QColor(255, 150, 150));
     p.drawText(
         QRectF(marge, h - h * 0.07, l * 0.6, h * 0.05), Qt::AlignLeft | Qt::AlignVCenter,
-        QString("%1 ligne(s) illisible(s) du fichier passée(s)").arg(lecture.lignesIgnorées));
+        QCoreApplication::translate("Historique", "%1 ligne(s) illisible(s) du fichier passée(s)")
+            .arg(lecture.lignesIgnorées));
   }
 }
 

@@ -33,9 +33,11 @@ protected:
   void paintEvent(QPaintEvent *e) override;
   void resizeEvent(QResizeEvent *e) override;
   void mousePressEvent(QMouseEvent *e) override;
+  void changeEvent(QEvent *e) override;
 
 private:
   void Lit();
+  void Nomme(); // the panel's own words, in the language spoken
   void Place();
   void Dessine(); // the chart and the table, into `image`
 
