@@ -227,7 +227,7 @@ TEST(FichiersLimites, LesRestesDÉcrituresInterrompuesSontEffacésEtRienDAutre) 
   DossierEssai d;
   const fs::path dossier = d.Chemin();
   const std::vector<std::string> restes = {"Scores.kQbTzA", "Noms.XXXXXX", "Tirage.aBcDeF",
-                                           "Temps1.Zzzzzz", "Temps2.qwERty"};
+                                           "Temps1.Zzzzzz", "Temps2.qwERty", "Historique.AbCdEf"};
   const std::vector<std::string> autres = {"Scores.backup", "Scores.kQbTzAb", "Scores.kQbT1A",
                                            "Score.kQbTzA",  "Scores_kQbTzA",  "Autre.kQbTzA",
                                            "Scores.kQbTz",  "Noms.kQbTzA.old"};

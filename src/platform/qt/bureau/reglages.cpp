@@ -54,14 +54,10 @@ QString FichierDesRéglages() {
 
 std::unique_ptr<QSettings> RéglagesDuJoueur() {
   const QString cible = FichierDesRéglages();
-  // A change cut short by a crash leaves its temporary file; the first look
-  // at the settings in a session clears it away.
-  static QString nettoyé;
-  if (nettoyé != cible) {
-    const QFileInfo info(cible);
-    format::NettoieRestes(info.absolutePath().toStdString(), {info.fileName().toStdString()});
-    nettoyé = cible;
-  }
+  // A change cut short by a crash leaves its temporary file; any look at the
+  // settings clears it away, the first of a session among them.
+  const QFileInfo info(cible);
+  format::NettoieRestes(info.absolutePath().toStdString(), {info.fileName().toStdString()});
   auto lecture = format::LitFichier(cible.toStdString(), TailleMaximale);
   const bool lu = lecture.état == format::Lecture::Lu && !lecture.tronqué;
   const bool remplaçable = lu || lecture.état == format::Lecture::Absent;
