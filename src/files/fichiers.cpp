@@ -189,8 +189,11 @@ void Écrit(TroisNiveaux &t, const std::string &nom, const std::string &octets,
   if (!signale || signalé != signalés.end())
     return;
   signalés.push_back(nom);
-  t.plateforme.SignaleErreur("Impossible d'enregistrer le fichier « " + nom + " » (" +
-                             CheminComplet(nom) + ") : " + Raison(nom, é) + CeQuiReste(nom, é));
+  // A deleted folder has no path left to ask for: the one the game chose.
+  const std::string chemin =
+      DossierSupprimé() ? t.plateforme.DossierDesDonnées() + "/" + nom : CheminComplet(nom);
+  t.plateforme.SignaleErreur("Impossible d'enregistrer le fichier « " + nom + " » (" + chemin +
+                             ") : " + Raison(nom, é) + CeQuiReste(nom, é));
 }
 } // namespace
 

@@ -9,6 +9,7 @@
 #include <zlib.h>
 
 #include "dossier_essai.h"
+#include "table_essai.h"
 #include "files/format.h"
 #include "files/historique.h"
 #include "platform/qt/bureau/dossier_donnees.h"
@@ -167,14 +168,22 @@ void Pose(const QString &chemin, Sorte sorte, const QByteArray &bon) {
   }
 }
 
+// The settings in a folder of the test's own, the others' put back after.
+struct RéglagesÀPart {
+  QTemporaryDir d;
+  QByteArray avant = qgetenv("XDG_CONFIG_HOME");
+  RéglagesÀPart() { qputenv("XDG_CONFIG_HOME", d.filePath("config").toUtf8()); }
+  ~RéglagesÀPart() { qputenv("XDG_CONFIG_HOME", avant); }
+};
+
 } // namespace
 
 // Every reader passes over what is not its file, at once, in bounded memory,
 // and no writer replaces a pipe or a device.
 TEST(FichiersHostiles, ChaqueLecteurPasseSurTubeAppareilÉnormeEtTronqué) {
   alarm(60); // a reader that blocks ends the test program
-  QTemporaryDir d;
-  qputenv("XDG_CONFIG_HOME", d.filePath("config").toUtf8());
+  RéglagesÀPart réglages;
+  QTemporaryDir &d = réglages.d;
   const QString jeu = d.filePath("svg-x"), svg = jeu + "/x.svgz";
   QByteArray svgBon = "<svg xmlns='http://www.w3.org/2000/svg'><rect id='back'/></svg>";
   const auto Gzip = [](const QByteArray &octets) {
@@ -252,8 +261,7 @@ TEST(FichiersHostiles, ChaqueLecteurPasseSurTubeAppareilÉnormeEtTronqué) {
 // A crash in the rename of the settings leaves its temporary file, which the
 // next look at the settings clears; the old settings stand.
 TEST(FichiersHostiles, UnRenommageInterrompuDesRéglagesNeLaisseRien) {
-  QTemporaryDir d;
-  qputenv("XDG_CONFIG_HOME", d.path().toUtf8());
+  RéglagesÀPart réglages;
   RéglagesDuJoueur()->setValue("cartes/jeu", "svg-avant");
   ASSERT_TRUE(TuéAuRenommage(
       [] { format::ÉcritFichier(FichierDesRéglages().toStdString(), "[cartes]\njeu=x\n", false); }));
@@ -261,4 +269,20 @@ TEST(FichiersHostiles, UnRenommageInterrompuDesRéglagesNeLaisseRien) {
   EXPECT_EQ(dossier.entryList(QDir::Files).size(), 2);
   EXPECT_EQ(RéglagesDuJoueur()->value("cartes/jeu").toString(), "svg-avant");
   EXPECT_EQ(dossier.entryList(QDir::Files), QStringList{QFileInfo(FichierDesRéglages()).fileName()});
+}
+
+// A saved size cut short, or of a window too small to play in, gives the
+// size the table is drawn at.
+TEST(FichiersHostiles, UneGéométrieAbîméeOuMinusculeDonneLaTailleDeLaTable) {
+  RéglagesÀPart réglages;
+  Table table;
+  const QSize dessin = table.fenêtre.size();
+  table.fenêtre.resize(table.fenêtre.minimumSize());
+  for (const QByteArray &géométrie :
+       {table.fenêtre.saveGeometry(), table.fenêtre.saveGeometry().left(10)}) {
+    RéglagesDuJoueur()->setValue("fenetre/geometrie", géométrie);
+    table.fenêtre.resize(table.fenêtre.minimumSize());
+    table.fenêtre.RetrouveTaille();
+    EXPECT_EQ(table.fenêtre.size(), dessin);
+  }
 }
