@@ -449,7 +449,7 @@ void AttendsLeRendu() {
 
 int FinDuRendu(int code) {
   abandon = true;
-  if (État &e = état(); e.fil && !e.fil->waitForDone(800)) {
+  if (État &e = état(); e.fil && !e.fil->waitForDone(500)) {
     std::fflush(nullptr);
     std::_Exit(code);
   }
