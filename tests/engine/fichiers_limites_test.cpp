@@ -223,20 +223,6 @@ TEST(FichiersLimites, UnDossierSansNouveauFichierSÉcritEnPlace) {
   EXPECT_EQ(std::distance(fs::directory_iterator(dossier), {}), 2) << "no temporary file";
 }
 
-TEST(FichiersLimites, UnDossierSuppriméEnCoursDePartieEstDitTelQuel) {
-  Partie p;
-  const std::string dossier = p.dossier.Chemin();
-  fs::remove_all(dossier);
-  p.t.ÉcritScores();
-  p.t.ÉcritTirage();
-  ASSERT_EQ(p.plateforme.erreurs.size(), 2u);
-  EXPECT_EQ(p.plateforme.erreurs[0],
-            "Impossible d'enregistrer le fichier « Scores » (" + dossier +
-                "/Scores) : le dossier des données n'existe plus. La partie continue sans ce "
-                "fichier.");
-  fs::create_directories(dossier); // for the folder's own clean-up
-}
-
 TEST(FichiersLimites, LesRestesDÉcrituresInterrompuesSontEffacésEtRienDAutre) {
   DossierEssai d;
   const fs::path dossier = d.Chemin();
