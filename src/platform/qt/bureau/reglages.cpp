@@ -64,7 +64,10 @@ std::unique_ptr<QSettings> RéglagesDuJoueur() {
   if (!lu)
     lecture.octets.clear();
   auto dossier = std::make_unique<QTemporaryDir>();
-  const QString copie = dossier->filePath("reglages.conf");
+  // Without a temporary folder the copy goes where no file can ever be (under
+  // a device): the settings then live in memory for this once.
+  const QString copie =
+      dossier->isValid() ? dossier->filePath("reglages.conf") : "/dev/null/reglages.conf";
   if (dossier->isValid())
     format::ÉcritFichier(copie.toStdString(), lecture.octets, false);
   return std::make_unique<RéglagesCopiés>(std::move(dossier), copie, cible,
