@@ -18,6 +18,7 @@
 #include "platform/qt/panneaux/pages_web.h"
 #include "platform/qt/fenetre/plateforme_qt.h"
 #include "platform/qt/bureau/sortie.h"
+#include "platform/qt/jeux/jeux_de_cartes.h"
 
 namespace {
 
@@ -155,5 +156,5 @@ int main(int argc, char *argv[]) {
     QTimer::singleShot(std::atoi(délai), &fenêtre, [&fenêtre, &table] {
       fenêtre.Événement([&table] { table.Fin_MouseUp(); });
     });
-  return application.exec();
+  return jeux::FinDuRendu(application.exec());
 }

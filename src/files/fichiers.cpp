@@ -1,4 +1,3 @@
-#include <QSaveFile>
 #include <algorithm>
 #include <cerrno>
 #include <cmath>
@@ -135,18 +134,27 @@ bool TroisNiveaux::LitScores() {
 
 namespace {
 
+// Whether the data folder itself has been deleted under the game: the
+// current folder then has no name left.
+bool DossierSupprimé() {
+  struct stat dossier {};
+  return stat(".", &dossier) == 0 && dossier.st_nlink == 0;
+}
+
 // Why a file could not be replaced, in the player's words. Qt keeps only a
 // coarse error kind, so the last system error and the folder itself are asked.
-std::string Raison(const std::string &nom, QFileDevice::FileError erreur, int errnoÉcriture) {
+std::string Raison(const std::string &nom, const format::Écriture &é) {
   std::error_code e;
+  if (DossierSupprimé())
+    return "le dossier des données n'existe plus";
   if (std::filesystem::is_directory(nom, e))
     return "un dossier porte ce nom";
-  if (std::filesystem::exists(nom, e) && !std::filesystem::is_regular_file(nom, e))
+  if (é.pasUnFichier)
     return "ce nom n'est pas celui d'un fichier ordinaire (un tube, un périphérique ou un lien "
            "vers l'un d'eux)";
-  if (erreur == QFileDevice::ResourceError || errnoÉcriture == ENOSPC)
+  if (é.ressource || é.errnoÉcriture == ENOSPC)
     return "le disque est plein";
-  if (errnoÉcriture == EFBIG || errnoÉcriture == EDQUOT)
+  if (é.errnoÉcriture == EFBIG || é.errnoÉcriture == EDQUOT)
     return "la taille permise aux fichiers est dépassée";
   if (access(".", W_OK) != 0)
     return errno == EROFS ? "le disque est en lecture seule" : "le dossier est protégé en écriture";
@@ -155,49 +163,25 @@ std::string Raison(const std::string &nom, QFileDevice::FileError erreur, int er
   return "le système a refusé l'écriture";
 }
 
-// Whether the open file is the data file itself rather than a temporary
-// beside it: the folder refused new files, so the file is written in place.
-bool ÉcritEnPlace(const QSaveFile &fichier, const std::string &nom) {
-  struct stat ouvert {
-  }, cible{};
-  return fstat(fichier.handle(), &ouvert) == 0 && stat(nom.c_str(), &cible) == 0 &&
-         ouvert.st_dev == cible.st_dev && ouvert.st_ino == cible.st_ino;
+// What is left of the file, told as it stands rather than as hoped.
+std::string CeQuiReste(const std::string &nom, const format::Écriture &é) {
+  std::error_code e;
+  if (é.enPlace)
+    return ". La partie continue ; le fichier a pu rester incomplet.";
+  if (DossierSupprimé() || !std::filesystem::exists(nom, e))
+    return ". La partie continue sans ce fichier.";
+  return ". La partie continue ; l'ancien fichier est conservé.";
 }
 
-// Only a regular file is ever replaced: a pipe, a device or a folder at the
-// name (or a link to one) is left as it is. A link to a regular file is
-// followed, and the file it points to is written.
-bool RemplaçableOuAbsent(const std::string &nom) {
-  struct stat état {};
-  return stat(nom.c_str(), &état) == 0 ? S_ISREG(état.st_mode) : errno == ENOENT;
-}
-
-// Replaces the file whole: its old content stays until the new one is on
-// disk, so a full disk or a crash never leaves it cut short. Where the
-// folder takes no new file but the file itself is writable, it is written
-// in place instead. A failure is told once, unless `signale` is false; the
-// player hears of that file again only after a write of it has worked.
+// Replaces the file whole (see format::ÉcritFichier). A failure is told
+// once, unless `signale` is false; the player hears of that file again only
+// after a write of it has worked.
 void Écrit(TroisNiveaux &t, const std::string &nom, const std::string &octets,
            bool signale = true) {
-  QSaveFile fichier(QString::fromStdString(nom));
-  fichier.setDirectWriteFallback(true);
-  const bool ordinaire = RemplaçableOuAbsent(nom);
-  errno = 0;
-  // The flush comes before the commit: a commit whose own flush fails still
-  // renames the empty temporary file over the old one.
-  const bool ouvert = ordinaire && fichier.open(QIODevice::WriteOnly);
-  const bool enPlace = ouvert && ÉcritEnPlace(fichier, nom);
-  const bool réussi = ouvert &&
-                      fichier.write(octets.data(), static_cast<qint64>(octets.size())) ==
-                          static_cast<qint64>(octets.size()) &&
-                      fichier.flush() && RemplaçableOuAbsent(nom) && fichier.commit();
-  const int errnoÉcriture = errno;
-  if (!réussi)
-    fichier.cancelWriting();
-
+  const format::Écriture é = format::ÉcritFichier(nom, octets, true);
   auto &signalés = t.FichiersNonÉcrits;
   const auto signalé = std::find(signalés.begin(), signalés.end(), nom);
-  if (réussi) {
+  if (é.réussi) {
     if (signalé != signalés.end())
       signalés.erase(signalé);
     return;
@@ -205,12 +189,11 @@ void Écrit(TroisNiveaux &t, const std::string &nom, const std::string &octets,
   if (!signale || signalé != signalés.end())
     return;
   signalés.push_back(nom);
-  const std::string raison = ordinaire ? Raison(nom, fichier.error(), errnoÉcriture)
-                                       : Raison(nom, QFileDevice::NoError, 0);
-  t.plateforme.SignaleErreur("Impossible d'enregistrer le fichier « " + nom + " » (" +
-                             CheminComplet(nom) + ") : " + raison +
-                             (enPlace ? ". La partie continue ; le fichier a pu rester incomplet."
-                                      : ". La partie continue ; l'ancien fichier est conservé."));
+  // A deleted folder has no path left to ask for: the one the game chose.
+  const std::string chemin =
+      DossierSupprimé() ? t.plateforme.DossierDesDonnées() + "/" + nom : CheminComplet(nom);
+  t.plateforme.SignaleErreur("Impossible d'enregistrer le fichier « " + nom + " » (" + chemin +
+                             ") : " + Raison(nom, é) + CeQuiReste(nom, é));
 }
 } // namespace
 

@@ -156,7 +156,7 @@ double NombreEnTête(std::string_view texte) {
   return std::strtod(std::string(texte.substr(0, n)).c_str(), nullptr);
 }
 
-Lecture LitFichier(const std::string &nom, std::size_t limite) {
+Lecture LitFichier(const std::string &nom, std::size_t limite, bool fin) {
   Lecture lecture;
   struct stat état {};
   if (stat(nom.c_str(), &état) != 0) {
@@ -178,7 +178,10 @@ Lecture LitFichier(const std::string &nom, std::size_t limite) {
     lecture.état = Lecture::PasUnFichier;
     return lecture;
   }
-  // Read by pieces: the file is small, and its size on disk may change.
+  // The size only chooses where to start; the read itself stops at the
+  // limit, however the file grows meanwhile.
+  const bool sauté = fin && état.st_size > static_cast<off_t>(limite) &&
+                     lseek(fd, état.st_size - static_cast<off_t>(limite), SEEK_SET) >= 0;
   std::string octets;
   char morceau[16384];
   while (octets.size() <= limite) {
@@ -195,7 +198,7 @@ Lecture LitFichier(const std::string &nom, std::size_t limite) {
     octets.append(morceau, static_cast<std::size_t>(n));
   }
   close(fd);
-  lecture.tronqué = octets.size() > limite;
+  lecture.tronqué = sauté || octets.size() > limite;
   octets.resize(std::min(octets.size(), limite));
   lecture.octets = std::move(octets);
   lecture.état = Lecture::Lu;

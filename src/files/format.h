@@ -37,15 +37,36 @@ double NombreEnTête(std::string_view texte);
 // The most characters a name keeps in the file: as many as a name box takes.
 constexpr std::size_t LongueurMaximaleNom = 32767;
 
-// A data file's first `limite` bytes. Only a regular file (or a link to one)
-// is read; anything else is never opened, so a pipe or a device can neither
-// block the game nor be read as a data file.
+// Every file the game reads goes through here: data files, history,
+// settings, card decks. Only a regular file (or a link to one) is read, and
+// at most `limite` bytes of it whatever its size says; anything else is
+// never read, so a pipe or a device can neither block the game nor fill its
+// memory. With `fin`, the last `limite` bytes rather than the first.
 struct Lecture {
   enum { Lu, Absent, PasUnFichier, Illisible } état = Absent;
   std::string octets;
   bool tronqué = false; // the file goes on past the limit
 };
-Lecture LitFichier(const std::string &nom, std::size_t limite);
+Lecture LitFichier(const std::string &nom, std::size_t limite, bool fin = false);
+
+// And every file it writes: replaced whole through a temporary file beside
+// it, so a crash leaves the old file or the new one. Only a regular file is
+// ever replaced; a pipe, a device or a folder at the name is left alone.
+// `enPlaceSiBesoin`: where the folder takes no new file but the file itself
+// is writable, it is written in place instead.
+struct Écriture {
+  bool réussi = false;
+  bool pasUnFichier = false; // the name is not that of a regular file
+  bool enPlace = false;      // written in place: a failure may have cut it
+  bool ressource = false;    // the system ran out of room
+  int errnoÉcriture = 0;
+};
+Écriture ÉcritFichier(const std::string &nom, std::string_view octets, bool enPlaceSiBesoin);
+
+// Removes what a write cut short leaves in `dossier`: "<nom>.XXXXXX" for each
+// of `noms`, six random letters not all small. Only regular files of this
+// user go, never what a link points to.
+void NettoieRestes(const std::string &dossier, const std::vector<std::string> &noms);
 
 // The lines within the first `limite` bytes of a file, a line cut by the
 // limit left out; nullopt when it is no regular file or cannot be read.

@@ -1,8 +1,6 @@
 #include "files/historique.h"
 
 #include <QDateTime>
-#include <QFile>
-#include <QSaveFile>
 #include <algorithm>
 #include <filesystem>
 #include <limits>
@@ -15,7 +13,7 @@ namespace historique {
 namespace {
 
 // A hand-made file far beyond what the game keeps is read by its end only.
-constexpr qint64 LectureMaximale = 4 * 1024 * 1024;
+constexpr std::size_t LectureMaximale = 4 * 1024 * 1024;
 
 const char *const Remise = "SCORES A 0";
 
@@ -68,20 +66,12 @@ std::string Maintenant() {
 // The whole file, or its last LectureMaximale bytes with the first, cut
 // line dropped.
 std::optional<std::string> Octets(const std::string &nom) {
-  std::error_code e;
-  if (!std::filesystem::is_regular_file(nom, e))
+  auto lecture = format::LitFichier(nom, LectureMaximale, true);
+  if (lecture.état != format::Lecture::Lu)
     return std::nullopt;
-  QFile fichier(QString::fromStdString(nom));
-  if (!fichier.open(QIODevice::ReadOnly))
-    return std::nullopt;
-  const bool coupé = fichier.size() > LectureMaximale;
-  if (coupé && !fichier.seek(fichier.size() - LectureMaximale))
-    return std::nullopt;
-  const QByteArray lus = fichier.read(LectureMaximale);
-  std::string octets(lus.constData(), static_cast<std::size_t>(lus.size()));
-  if (coupé)
-    octets.erase(0, std::min(octets.size(), octets.find('\n') + 1));
-  return octets;
+  if (lecture.tronqué)
+    lecture.octets.erase(0, std::min(lecture.octets.size(), lecture.octets.find('\n') + 1));
+  return std::move(lecture.octets);
 }
 
 void Note(TroisNiveaux &t, const Entrée &e) {
@@ -214,16 +204,7 @@ bool Ajoute(const Entrée &e, const std::string &nom) {
     tout += lignes[n] + "\r\n";
   tout += Ligne(e);
 
-  QSaveFile fichier(QString::fromStdString(nom));
-  // Flushed and checked before the commit, which would otherwise put an
-  // empty file in place of the old one on a full disk.
-  const bool réussi = fichier.open(QIODevice::WriteOnly) &&
-                      fichier.write(tout.data(), static_cast<qint64>(tout.size())) ==
-                          static_cast<qint64>(tout.size()) &&
-                      fichier.flush() && fichier.commit();
-  if (!réussi)
-    fichier.cancelWriting();
-  return réussi;
+  return format::ÉcritFichier(nom, tout, false).réussi;
 }
 
 void NoteDonne(TroisNiveaux &t) {

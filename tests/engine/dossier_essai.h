@@ -2,11 +2,20 @@
 // A temporary folder standing for the program's folder, with the default
 // names and scores in it, removed at the end.
 
+#include <csignal>
+#include <cstddef>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
+#include <linux/filter.h>
+#include <linux/seccomp.h>
 #include <random>
 #include <string>
+#include <sys/prctl.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 class DossierEssai {
 public:
@@ -39,3 +48,27 @@ public:
 private:
   std::filesystem::path chemin;
 };
+
+// Runs `écriture` in a child that the system kills at its first rename, as
+// a crash at the worst moment of a write would; true when it died there.
+inline bool TuéAuRenommage(const std::function<void()> &écriture) {
+  const pid_t enfant = fork();
+  if (enfant == 0) {
+    sock_filter filtre[] = {
+        BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
+        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_rename, 2, 0),
+        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_renameat, 1, 0),
+        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_renameat2, 0, 1),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_KILL_PROCESS),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW)};
+    sock_fprog programme{static_cast<unsigned short>(std::size(filtre)), filtre};
+    if (prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0 ||
+        prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &programme) != 0)
+      _exit(2);
+    écriture();
+    _exit(0);
+  }
+  int statut = 0;
+  return enfant > 0 && waitpid(enfant, &statut, 0) == enfant && WIFSIGNALED(statut) &&
+         WTERMSIG(statut) == SIGSYS;
+}

@@ -26,19 +26,6 @@ const std::vector<std::vector<int>> Donne = {{1, 17, 14, 19, 38, 2, 13, 4, 24, 4
                                              {11, 7, 21, 42, 12, 40, 51, 30, 28, 15, 31, 44, 18}};
 const std::vector<int> Disposition = {18, 44, 31, 15, 28, 30, 51, 40, 12, 42, 21, 7, 11};
 
-// The message of a start with these Noms and Scores, empty when it starts.
-std::string Démarrage(const std::string *noms, const std::string *scores) {
-  DossierEssai d;
-  if (noms)
-    d.Écrit("Noms", *noms);
-  if (scores)
-    d.Écrit("Scores", *scores);
-  PlateformeSansFenêtre p(d.Chemin());
-  TroisNiveaux t(p);
-  t.Form_Load();
-  return t.ErreurDémarrage;
-}
-
 // Runs `essai` as an ordinary user, for whom a folder's permissions bind:
 // in a child that drops root for nobody, or here when not root. nullopt
 // when neither can be had.
@@ -94,36 +81,6 @@ TEST(FichiersLimites, QuatreLongsNomsSeRelisentTelsQuels) {
   p.t.Fenêtre.NomsJoueursText[0].Text = std::string(40000, 'x');
   p.t.EnregistreNoms_MouseUp();
   EXPECT_EQ(p.dossier.Lit("Noms").find('"', 1), 32768u);
-}
-
-TEST(FichiersLimites, UnFichierAbîméEstNomméParSonVraiDéfaut) {
-  const std::string noms = "\"A\"\r\n\"B\"\r\n\"C\"\r\n\"D\"\r\n";
-  const std::string scores = "0\r\n0\r\n0\r\n0\r\n";
-  struct Cas {
-    std::string scores, attendu;
-  };
-  for (const Cas &c : {
-           Cas{"1\r\nx\r\n", "la ligne 2 n'est pas un nombre entier"},
-           Cas{"1\r\n2\r\n", "contient seulement deux scores"},
-           Cas{"99999999999999999999999\r\n0\r\n0\r\n0\r\n",
-               "la ligne 1 contient un nombre trop grand"},
-           Cas{"0\r\n-99999999999999999999999\r\n0\r\n0\r\n",
-               "la ligne 2 contient un nombre trop grand"},
-           Cas{"0\r\n0\r\n-2147483649\r\n0\r\n", "la ligne 3 contient un nombre trop grand"},
-           Cas{"0\r\n0\r\n0\r\n1-2\r\n", "la ligne 4 n'est pas un nombre entier"},
-           Cas{"2147483647\r\n-2147483648\r\n0\r\n-0\r\n", ""},
-       })
-    EXPECT_NE(Démarrage(&noms, &c.scores).find(c.attendu), std::string::npos)
-        << c.scores << " : " << Démarrage(&noms, &c.scores);
-  EXPECT_TRUE(Démarrage(&noms, &scores).empty());
-
-  // Past a size the game never writes, a file is refused as too large.
-  const std::string énorme = "\"A\"\r\n\"" + std::string(2 << 20, 'b') + "\"\r\n\"C\"\r\n\"D\"\r\n";
-  EXPECT_NE(Démarrage(&énorme, &scores).find("« Noms »"), std::string::npos);
-  EXPECT_NE(Démarrage(&énorme, &scores).find("est trop grand pour être un fichier du jeu"),
-            std::string::npos);
-  const std::string troisNoms = "\"A\"\r\nB\r\n";
-  EXPECT_NE(Démarrage(&troisNoms, &scores).find("la ligne 2 n'est pas un nom"), std::string::npos);
 }
 
 TEST(FichiersLimites, UnScoreSArrêteAuxLimitesSansTournerEtSeRelit) {
@@ -227,7 +184,7 @@ TEST(FichiersLimites, LesRestesDÉcrituresInterrompuesSontEffacésEtRienDAutre) 
   DossierEssai d;
   const fs::path dossier = d.Chemin();
   const std::vector<std::string> restes = {"Scores.kQbTzA", "Noms.XXXXXX", "Tirage.aBcDeF",
-                                           "Temps1.Zzzzzz", "Temps2.qwERty"};
+                                           "Temps1.Zzzzzz", "Temps2.qwERty", "Historique.AbCdEf"};
   const std::vector<std::string> autres = {"Scores.backup", "Scores.kQbTzAb", "Scores.kQbT1A",
                                            "Score.kQbTzA",  "Scores_kQbTzA",  "Autre.kQbTzA",
                                            "Scores.kQbTz",  "Noms.kQbTzA.old"};

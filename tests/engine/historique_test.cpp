@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <sstream>
+#include <sys/stat.h>
 
 #include "analyse/commande_historique.h"
 #include "files/historique.h"
@@ -98,9 +99,26 @@ TEST(Historique, LeFichierGardeSesDernièresLignes) {
   EXPECT_EQ(lecture.entrées.front().totaux[0], 1) << "the oldest line went";
   EXPECT_TRUE(lecture.entrées.back().remise);
 
-  // Where it cannot be written, the file is left whole and the answer is no.
+  // Where it cannot be written, the file is left whole and the answer is no;
+  // a pipe at the name is no file to replace.
   std::filesystem::create_directory(d.Chemin() + "/Dossier");
   EXPECT_FALSE(historique::Ajoute(Remise("2026-11-24 08:00:00"), d.Chemin() + "/Dossier"));
+  ASSERT_EQ(mkfifo((d.Chemin() + "/Tube").c_str(), 0644), 0);
+  EXPECT_FALSE(historique::Ajoute(Remise("2026-11-24 08:00:00"), d.Chemin() + "/Tube"));
+  EXPECT_TRUE(std::filesystem::is_fifo(d.Chemin() + "/Tube"));
+
+  // A crash in the rename leaves the old file whole and a leftover that the
+  // next start clears.
+  ASSERT_TRUE(TuéAuRenommage([&] { historique::Ajoute(Remise("2026-11-25 08:00:00"), nom); }));
+  EXPECT_EQ(historique::Lit(nom).entrées.size(), historique::LignesGardées);
+  const auto Restes = [&] {
+    return std::distance(std::filesystem::directory_iterator(d.Chemin()), {});
+  };
+  EXPECT_EQ(Restes(), 6) << "Noms, Scores, Historique, Dossier, Tube and the leftover";
+  PlateformeSansFenêtre p(d.Chemin());
+  TroisNiveaux t(p);
+  t.Form_Load();
+  EXPECT_EQ(Restes(), 5);
 }
 
 TEST(Historique, LesChiffresDeChaqueSiège) {

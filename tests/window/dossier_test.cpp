@@ -5,8 +5,17 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
+#include <sys/stat.h>
+#include <zlib.h>
+
+#include "dossier_essai.h"
+#include "table_essai.h"
+#include "files/format.h"
+#include "files/historique.h"
 #include "platform/qt/bureau/dossier_donnees.h"
 #include "platform/qt/bureau/ligne_de_commande.h"
+#include "platform/qt/bureau/reglages.h"
+#include "platform/qt/jeux/jeux_de_cartes.h"
 
 namespace {
 
@@ -46,19 +55,17 @@ struct Machine {
 
 } // namespace
 
-TEST(DossierDesDonnées, UnNomsÀCôtéDuProgrammeLeRendPortable) {
+TEST(DossierDesDonnées, PortableOuCopiéChezLeJoueurAuPremierLancement) {
   Machine m;
+  // A Noms beside the program makes it portable: every file lies there.
   Écrit(m.programme + "/Noms", Noms);
-  const auto choix = m.Choisit();
-  EXPECT_TRUE(choix.portable);
-  EXPECT_EQ(choix.dossier, m.programme);
-  EXPECT_EQ(choix.pages, m.programme);
-  EXPECT_TRUE(choix.erreur.isEmpty());
+  const auto portable = m.Choisit();
+  EXPECT_TRUE(portable.portable && portable.erreur.isEmpty());
+  EXPECT_EQ(portable.dossier, m.programme);
+  EXPECT_EQ(portable.pages, m.programme);
   EXPECT_FALSE(QFileInfo::exists(m.personnel)) << "the player's folder is left alone";
-}
+  QFile::remove(m.programme + "/Noms");
 
-TEST(DossierDesDonnées, LePremierLancementInstalléCopieLesDéfautsChezLeJoueur) {
-  Machine m;
   const auto choix = m.Choisit();
   ASSERT_TRUE(choix.erreur.isEmpty()) << choix.erreur.toStdString();
   EXPECT_FALSE(choix.portable);
@@ -129,4 +136,141 @@ TEST(LigneDeCommande, AideEtVersionSeulement) {
   const std::string erreurs = testing::internal::GetCapturedStderr();
   EXPECT_NE(erreurs.find("option inconnue « --plein-écran »"), std::string::npos);
   EXPECT_NE(erreurs.find("argument inattendu « Noms »"), std::string::npos);
+}
+
+namespace {
+
+// What a hostile or careless neighbour may leave at a file's name.
+enum class Sorte { Tube, LienVersAppareil, Énorme, Tronqué };
+
+void Pose(const QString &chemin, Sorte sorte, const QByteArray &bon) {
+  QFile::remove(chemin);
+  QDir().mkpath(QFileInfo(chemin).absolutePath());
+  switch (sorte) {
+  case Sorte::Tube:
+    ASSERT_EQ(mkfifo(QFile::encodeName(chemin).constData(), 0644), 0);
+    break;
+  case Sorte::LienVersAppareil:
+    ASSERT_TRUE(QFile::link("/dev/zero", chemin));
+    break;
+  case Sorte::Énorme: {
+    // Far past every bound, and no file of the game.
+    QFile f(chemin);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    ASSERT_TRUE(f.resize(64LL * 1024 * 1024));
+    break;
+  }
+  case Sorte::Tronqué:
+    Écrit(chemin, bon.left(bon.size() / 2));
+    break;
+  }
+}
+
+// The settings in a folder of the test's own, the others' put back after.
+struct RéglagesÀPart {
+  QTemporaryDir d;
+  QByteArray avant = qgetenv("XDG_CONFIG_HOME");
+  RéglagesÀPart() { qputenv("XDG_CONFIG_HOME", d.filePath("config").toUtf8()); }
+  ~RéglagesÀPart() { qputenv("XDG_CONFIG_HOME", avant); }
+};
+
+} // namespace
+
+// Every reader passes over what is not its file, at once, in bounded memory,
+// and no writer replaces a pipe or a device.
+TEST(FichiersHostiles, ChaqueLecteurPasseSurTubeAppareilÉnormeEtTronqué) {
+  alarm(60); // a reader that blocks ends the test program
+  RéglagesÀPart réglages;
+  QTemporaryDir &d = réglages.d;
+  const QString jeu = d.filePath("svg-x"), svg = jeu + "/x.svgz";
+  const QByteArray svgBon = "<svg xmlns='http://www.w3.org/2000/svg'><rect id='back'/></svg>";
+  const auto Gzip = [&](const QByteArray &octets) {
+    gzFile f = gzopen(QFile::encodeName(svg).constData(), "wb");
+    gzwrite(f, octets.constData(), static_cast<unsigned>(octets.size()));
+    gzclose(f);
+    return Lit(svg);
+  };
+  const QByteArray index = "[KDE Backdeck]\nName=X\nSVG=x.svgz\n";
+  Écrit(jeu + "/index.desktop", index);
+  const QByteArray svgzBon = Gzip(svgBon);
+  ASSERT_TRUE(ContenuDuJeu(svg).has_value());
+  {
+    // The same deck, unpacking past its bound, or pointing at other files.
+    Gzip(QByteArray(TailleMaximaleSvg + 1, ' '));
+    EXPECT_FALSE(ContenuDuJeu(svg));
+    Écrit(svg, "<svg><image xlink:href=\"/dev/zero\"/><image href = '../../etc/passwd'/>"
+               "<image xlink:href=\"data:image/png;base64,AA\"/><use href='#back'/></svg>");
+    EXPECT_EQ(*ContenuDuJeu(svg), "<svg><image xlink:href=\"\"/><image href = ''/>"
+                                  "<image xlink:href=\"data:image/png;base64,AA\"/>"
+                                  "<use href='#back'/></svg>");
+    Écrit(svg, "<!DOCTYPE svg [<!ENTITY e SYSTEM '/etc/passwd'>]><svg>&e;</svg>");
+    EXPECT_FALSE(ContenuDuJeu(svg));
+  }
+
+  const QString donnée = d.filePath("Scores"), histoire = d.filePath("Historique");
+  const QByteArray ligne = "2026-11-23 21:04:05;EXPERT;-5;21;-7;-9;120;-3;14;-131\r\n";
+  struct Lecteur {
+    const char *nom;
+    QString chemin;
+    QByteArray bon;
+    std::function<bool()> passe; // the file was passed over or read in part
+  };
+  const std::vector<Lecteur> lecteurs = {
+      {"data file", donnée, Scores,
+       [&] {
+         bool tronqué = false;
+         const auto lignes = format::LitLignes(donnée.toStdString(), 1 << 20, &tronqué);
+         return !lignes || tronqué || lignes->size() < 4;
+       }},
+      {"history", histoire, ligne + ligne,
+       [&] { return historique::Lit(histoire.toStdString()).entrées.size() < 2; }},
+      {"settings", FichierDesRéglages(), "[cartes]\njeu=svg-oxygen\n",
+       [&] { return RéglagesDuJoueur()->value("cartes/jeu").toString() != "svg-oxygen"; }},
+      {"deck index", jeu + "/index.desktop", index, [&] { return !LitJeu(jeu); }},
+      {"deck SVG", svg, svgzBon, [&] { return !ContenuDuJeu(svg); }},
+  };
+  for (const Lecteur &l : lecteurs)
+    for (Sorte sorte : {Sorte::Tube, Sorte::LienVersAppareil, Sorte::Énorme, Sorte::Tronqué}) {
+      Pose(l.chemin, sorte, l.bon);
+      EXPECT_TRUE(l.passe()) << l.nom << " " << static_cast<int>(sorte);
+      QFile::remove(l.chemin);
+      Écrit(l.chemin, l.bon);
+      EXPECT_FALSE(l.passe()) << l.nom << " read back whole";
+    }
+
+  // A change of settings does not replace a pipe.
+  Pose(FichierDesRéglages(), Sorte::Tube, {});
+  RéglagesDuJoueur()->setValue("cartes/jeu", "svg-x");
+  EXPECT_TRUE(QFileInfo(FichierDesRéglages()).isFile() == false);
+  EXPECT_TRUE(QFileInfo::exists(FichierDesRéglages()));
+  alarm(0);
+}
+
+// A crash in the rename of the settings leaves its temporary file, which the
+// next look at the settings clears; the old settings stand.
+TEST(FichiersHostiles, UnRenommageInterrompuDesRéglagesNeLaisseRien) {
+  RéglagesÀPart réglages;
+  RéglagesDuJoueur()->setValue("cartes/jeu", "svg-avant");
+  ASSERT_TRUE(TuéAuRenommage(
+      [] { format::ÉcritFichier(FichierDesRéglages().toStdString(), "[cartes]\njeu=x\n", false); }));
+  const QDir dossier = QFileInfo(FichierDesRéglages()).dir();
+  EXPECT_EQ(dossier.entryList(QDir::Files).size(), 2);
+  EXPECT_EQ(RéglagesDuJoueur()->value("cartes/jeu").toString(), "svg-avant");
+  EXPECT_EQ(dossier.entryList(QDir::Files), QStringList{QFileInfo(FichierDesRéglages()).fileName()});
+}
+
+// A saved size cut short, or of a window too small to play in, gives the
+// size the table is drawn at.
+TEST(FichiersHostiles, UneGéométrieAbîméeOuMinusculeDonneLaTailleDeLaTable) {
+  RéglagesÀPart réglages;
+  Table table;
+  const QSize dessin = table.fenêtre.size();
+  table.fenêtre.resize(table.fenêtre.minimumSize());
+  for (const QByteArray &géométrie :
+       {table.fenêtre.saveGeometry(), table.fenêtre.saveGeometry().left(10)}) {
+    RéglagesDuJoueur()->setValue("fenetre/geometrie", géométrie);
+    table.fenêtre.resize(table.fenêtre.minimumSize());
+    table.fenêtre.RetrouveTaille();
+    EXPECT_EQ(table.fenêtre.size(), dessin);
+  }
 }

@@ -9,6 +9,7 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
+#include "platform/qt/bureau/reglages.h"
 #include "platform/qt/jeux/choix_du_jeu.h"
 #include "platform/qt/fenetre/images.h"
 #include "platform/qt/jeux/jeux_de_cartes.h"
@@ -28,8 +29,8 @@ class RéglagesDEssai : public ::testing::Environment {
 public:
   void SetUp() override {
     QCoreApplication::setOrganizationName("TroisNiveauxEssais");
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, dossier.path());
-    QSettings().clear();
+    qputenv("XDG_CONFIG_HOME", dossier.path().toUtf8());
+    RéglagesDuJoueur()->clear();
   }
   QTemporaryDir dossier;
 };
@@ -93,7 +94,7 @@ struct JeuxDEssai {
     jeux::Choisit(0);
     jeux::AttendsLeRendu();
     jeux::DéfinitRacines(RacinesDuBureau());
-    QSettings().clear();
+    RéglagesDuJoueur()->clear();
   }
   int Numéro(const QString &id) const {
     for (std::size_t n = 0; n < jeux::Installés().size(); ++n)
@@ -236,7 +237,7 @@ TEST(JeuxDeCartes, F8MetLeJeuSurLaTableEtLeChoixResteDUneSessionÀLAutre) {
     EXPECT_TRUE(Proches(MilieuDe(table, f.CartesJeu[39]), Teinte(30)));
     EXPECT_TRUE(Proches(MilieuDe(table, f.CartesJeu[0]), Teinte(54)));
   }
-  EXPECT_EQ(QSettings().value("cartes/jeu").toString(), "svg-bon");
+  EXPECT_EQ(RéglagesDuJoueur()->value("cartes/jeu").toString(), "svg-bon");
   jeux::Choisit(0);
 
   // The next session starts with it.

@@ -7,4 +7,9 @@
 
 // Under the application's name when it gives no organisation, as the game
 // does: ~/.config/troisniveaux/troisniveaux.conf, not "Unknown Organization".
+// The file is read and written like the data files: a pipe, a device or an
+// oversized file there gives the defaults and is never replaced.
 std::unique_ptr<QSettings> RéglagesDuJoueur();
+
+// Where that file lies.
+QString FichierDesRéglages();

@@ -282,8 +282,12 @@ void FenêtreTable::RetrouveTaille() {
   mémoriseTaille = true;
   // The player's own settings, apart from the game's data files.
   const QByteArray géométrie = RéglagesDuJoueur()->value("fenetre/geometrie").toByteArray();
-  if (!géométrie.isEmpty())
-    restoreGeometry(géométrie);
+  // A damaged value (cut short, or a window of nothing) gives the size the
+  // table is drawn at rather than a window too small to play in.
+  const QSize dessin(Pixels(t.Fenêtre.Form.Width, 1), Pixels(t.Fenêtre.Form.Height, 1));
+  if (géométrie.isEmpty() || !restoreGeometry(géométrie) || width() < dessin.width() / 2 ||
+      height() < dessin.height() / 2)
+    resize(dessin);
   const QSize voulue = size();
   TientDansLÉcran(voulue);
   // The frame's true size is known once the window stands on the screen; a

@@ -3,6 +3,7 @@
 #include "platform/qt/fenetre/images.h"
 #include "platform/qt/bureau/langue.h"
 #include "platform/qt/bureau/reglages.h"
+#include "files/format.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -16,7 +17,11 @@
 #include <algorithm>
 #include <atomic>
 #include <cmath>
+#include <cstdio>
+#include <cstdlib>
 #include <memory>
+#include <sys/stat.h>
+#include <zlib.h>
 #ifdef __GLIBC__
 #include <malloc.h>
 #endif
@@ -37,13 +42,14 @@ QString ÉlémentDeCarte(int code) {
 }
 
 std::optional<JeuDeCartes> LitJeu(const QString &dossier) {
-  QFile index(QDir(dossier).filePath("index.desktop"));
-  if (!index.open(QIODevice::ReadOnly | QIODevice::Text) || index.size() > 256 * 1024)
+  const auto index =
+      format::LitFichier(QDir(dossier).filePath("index.desktop").toStdString(), 256 * 1024);
+  if (index.état != format::Lecture::Lu || index.tronqué)
     return std::nullopt;
   QString svg;
   QMap<QString, QString> noms; // by language, "" for the name without one
   bool dansLeGroupe = false;
-  for (const QString &brute : QString::fromUtf8(index.readAll()).split('\n')) {
+  for (const QString &brute : QString::fromStdString(index.octets).split('\n')) {
     const QString ligne = brute.trimmed();
     if (ligne.startsWith('[')) {
       // Only the first group describes the deck.
@@ -66,8 +72,11 @@ std::optional<JeuDeCartes> LitJeu(const QString &dossier) {
   // The file must lie in the deck's folder: a name that climbs out is refused.
   if (svg.isEmpty() || svg.contains('/'))
     return std::nullopt;
+  // A pipe or a device in its place is passed over as a missing file.
   const QString fichier = QDir(dossier).filePath(svg);
-  if (!QFile::exists(fichier))
+  struct stat état {};
+  if (stat(QFile::encodeName(fichier).constData(), &état) != 0 || !S_ISREG(état.st_mode) ||
+      état.st_size > TailleMaximaleJeu)
     return std::nullopt;
   JeuDeCartes jeu;
   jeu.id = QDir(dossier).dirName();
@@ -101,13 +110,89 @@ void TaisLesAvertissementsSvg() {
 
 } // namespace
 
+namespace {
+
+// Set at the end of the session: the rendering thread gives up at its next step.
+std::atomic<bool> abandon = false;
+
+// A gzip stream unpacked by pieces, given up past the bound rather than
+// trusting the size the stream announces.
+std::optional<QByteArray> Décompresse(const std::string &octets) {
+  z_stream flux{};
+  if (inflateInit2(&flux, 16 + MAX_WBITS) != Z_OK)
+    return std::nullopt;
+  flux.next_in = reinterpret_cast<Bytef *>(const_cast<char *>(octets.data()));
+  flux.avail_in = static_cast<uInt>(octets.size());
+  QByteArray svg;
+  char morceau[64 * 1024];
+  int r = Z_OK;
+  while (r != Z_STREAM_END && !abandon && svg.size() <= TailleMaximaleSvg) {
+    flux.next_out = reinterpret_cast<Bytef *>(morceau);
+    flux.avail_out = sizeof morceau;
+    r = inflate(&flux, Z_NO_FLUSH);
+    if (r != Z_OK && r != Z_STREAM_END)
+      break; // damaged or cut short
+    svg.append(morceau, static_cast<qsizetype>(sizeof morceau - flux.avail_out));
+  }
+  inflateEnd(&flux);
+  if (r != Z_STREAM_END || abandon || svg.size() > TailleMaximaleSvg)
+    return std::nullopt;
+  return svg;
+}
+
+// Every href="..." whose value is neither a place in the document ("#id")
+// nor inline data is emptied: the renderer would read any file it names.
+void VideLesRéférences(QByteArray &svg) {
+  for (qsizetype i = svg.indexOf("href"); i >= 0; i = svg.indexOf("href", i + 1)) {
+    qsizetype j = i + 4;
+    while (j < svg.size() && QChar::isSpace(svg[j]))
+      ++j;
+    if (j >= svg.size() || svg[j] != '=')
+      continue;
+    ++j;
+    while (j < svg.size() && QChar::isSpace(svg[j]))
+      ++j;
+    if (j >= svg.size() || (svg[j] != '"' && svg[j] != '\''))
+      continue;
+    const qsizetype fin = svg.indexOf(svg[j], j + 1);
+    if (fin < 0)
+      return;
+    const QByteArray valeur = svg.mid(j + 1, fin - j - 1).trimmed();
+    if (valeur.startsWith('#') || valeur.startsWith("data:"))
+      continue;
+    svg.remove(j + 1, fin - j - 1);
+  }
+}
+
+} // namespace
+
+std::optional<QByteArray> ContenuDuJeu(const QString &fichier) {
+  auto lu = format::LitFichier(QFile::encodeName(fichier).toStdString(),
+                               static_cast<std::size_t>(TailleMaximaleJeu));
+  if (lu.état != format::Lecture::Lu || lu.tronqué || abandon)
+    return std::nullopt;
+  std::optional<QByteArray> svg;
+  if (lu.octets.size() >= 2 && static_cast<unsigned char>(lu.octets[0]) == 0x1f &&
+      static_cast<unsigned char>(lu.octets[1]) == 0x8b)
+    svg = Décompresse(lu.octets);
+  else
+    svg = QByteArray::fromStdString(lu.octets);
+  if (!svg || svg->contains("<!ENTITY"))
+    return std::nullopt;
+  VideLesRéférences(*svg);
+  return svg;
+}
+
 std::optional<std::vector<QImage>> RendJeu(const QString &fichier, QSize taille, qreal ratio) {
   TaisLesAvertissementsSvg();
-  QSvgRenderer rendu(fichier);
-  if (!rendu.isValid() || taille.isEmpty())
+  const auto contenu = ContenuDuJeu(fichier);
+  QSvgRenderer rendu;
+  if (!contenu || !rendu.load(*contenu) || !rendu.isValid() || taille.isEmpty())
     return std::nullopt;
   std::vector<QImage> images(55);
   for (int code = 0; code <= 54; ++code) {
+    if (abandon)
+      return std::nullopt;
     const QString élément = ÉlémentDeCarte(code);
     if (élément.isEmpty())
       continue;
@@ -371,6 +456,15 @@ void AttendsLeRendu() {
     Fil().waitForDone();
     QCoreApplication::sendPostedEvents(QCoreApplication::instance(), QEvent::MetaCall);
   }
+}
+
+int FinDuRendu(int code) {
+  abandon = true;
+  if (État &e = état(); e.fil && !e.fil->waitForDone(500)) {
+    std::fflush(nullptr);
+    std::_Exit(code);
+  }
+  return code;
 }
 
 } // namespace jeux

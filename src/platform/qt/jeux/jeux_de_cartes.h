@@ -30,6 +30,17 @@ QString ÉlémentDeCarte(int code);
 // file that exists.
 std::optional<JeuDeCartes> LitJeu(const QString &dossier);
 
+// The most a deck's file may weigh, and its SVG once unpacked: three times
+// the largest deck known, far below what would strain the memory.
+inline constexpr qint64 TailleMaximaleJeu = 16 * 1024 * 1024;
+inline constexpr qint64 TailleMaximaleSvg = 48 * 1024 * 1024;
+
+// A deck's SVG as the renderer may take it: read and unpacked within those
+// bounds, every reference to another file blanked. Nothing when it is no
+// regular file, is too large, declares entities (they could hide such a
+// reference) or rendering is being abandoned.
+std::optional<QByteArray> ContenuDuJeu(const QString &fichier);
+
 // The pictures of a deck at one size: a null image where the deck has no
 // element for a code. Nothing when the file cannot be read as SVG or lacks a
 // face or the back.
@@ -62,5 +73,10 @@ QPixmap Image(int code, QSize taille, qreal ratio);
 
 // Waits for the rendering under way, for tests and captures.
 void AttendsLeRendu();
+
+// At the end of the session: the rendering under way is abandoned. Should it
+// not come back within a moment (a deck the renderer takes long over), the
+// process ends there with `code`, as nothing of the player's waits on it.
+int FinDuRendu(int code);
 
 } // namespace jeux

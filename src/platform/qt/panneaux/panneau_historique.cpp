@@ -196,7 +196,24 @@ void PanneauHistorique::Dessine() {
                                .arg(premièreDonne)
                                .arg(figures.donnes));
 
-  const QRectF graphe(marge + h * 0.09, h * 0.12, l - 2 * marge - h * 0.09 - l * 0.17, h * 0.44);
+  double bas = 0, haut = 0;
+  for (const auto *e : montrées)
+    for (int32_t s : e->scores) {
+      bas = std::min<double>(bas, e->remise ? 0 : s);
+      haut = std::max<double>(haut, e->remise ? 0 : s);
+    }
+  const double pas = Pas(haut - bas, 5);
+  bas = std::floor(bas / pas) * pas;
+  haut = std::ceil(haut / pas) * pas;
+  if (haut <= bas)
+    haut = bas + pas;
+  // The scale's labels have room for the longest, up to a score's limits.
+  const QFontMetricsF mesureÉchelle(PolicePixels(h * 0.024));
+  const qreal étiquettes =
+      std::max({h * 0.078, mesureÉchelle.horizontalAdvance(QString::number(qint64(bas))),
+                mesureÉchelle.horizontalAdvance(QString::number(qint64(haut)))});
+  const qreal gauche = marge + étiquettes + h * 0.012;
+  const QRectF graphe(gauche, h * 0.12, l - marge - gauche - l * 0.17, h * 0.44);
   if (montrées.empty()) {
     p.setFont(PolicePixels(h * 0.035));
     p.drawText(
@@ -206,17 +223,6 @@ void PanneauHistorique::Dessine() {
             : QCoreApplication::translate(
                   "Historique", "Pas encore d'historique : il commence à la prochaine donne."));
   } else {
-    double bas = 0, haut = 0;
-    for (const auto *e : montrées)
-      for (int32_t s : e->scores) {
-        bas = std::min<double>(bas, e->remise ? 0 : s);
-        haut = std::max<double>(haut, e->remise ? 0 : s);
-      }
-    const double pas = Pas(haut - bas, 5);
-    bas = std::floor(bas / pas) * pas;
-    haut = std::ceil(haut / pas) * pas;
-    if (haut <= bas)
-      haut = bas + pas;
     const int n = static_cast<int>(montrées.size());
     const auto X = [&](int i) {
       return n == 1 ? graphe.center().x() : graphe.left() + graphe.width() * i / (n - 1);
@@ -296,21 +302,41 @@ void PanneauHistorique::Dessine() {
   }
 
   // The figures of every deal in the file, seat by seat.
-  const qreal haut = h * 0.62, rangée = h * 0.052;
-  const qreal bords[6] = {0.34, 0.48, 0.63, 0.78, 0.89, 1.0}; // right edges, in the width
+  const qreal dessus = h * 0.62, rangée = h * 0.052;
+  const qreal proportions[6] = {0.34, 0.48, 0.63, 0.78, 0.89, 1.0}; // right edges, in the width
   const qreal largeur = l - 2 * marge;
+  // Each column of figures at least as wide as its widest figure and a
+  // space; the names get what is left, and the font shrinks when a fifth
+  // of the width would not be left for them.
+  qreal bords[6], taillePolice = h * 0.032;
+  QFont police;
+  while (true) {
+    police = PolicePixels(taillePolice, true);
+    const QFontMetricsF m(police);
+    bords[5] = largeur;
+    for (int c = 5; c >= 1; --c) {
+      qreal besoin = largeur * (proportions[c] - proportions[c - 1]);
+      for (const auto &ligne : tableau)
+        besoin = std::max(besoin, m.horizontalAdvance(ligne[c] + "  "));
+      bords[c - 1] = bords[c] - besoin;
+    }
+    if (bords[0] >= largeur * 0.2 || taillePolice <= 7)
+      break;
+    taillePolice *= 0.9;
+  }
   p.setPen(QPen(Trait, 1));
-  p.drawLine(QPointF(marge, haut + rangée), QPointF(l - marge, haut + rangée));
-  p.setFont(PolicePixels(h * 0.032, true));
+  p.drawLine(QPointF(marge, dessus + rangée), QPointF(l - marge, dessus + rangée));
+  p.setFont(police);
   for (int r = 0; r < static_cast<int>(tableau.size()); ++r) {
     p.setPen(r == 0 ? Trait.lighter(150) : CouleurDuSiège(r - 1));
-    const qreal y = haut + r * rangée + (r > 0 ? h * 0.01 : 0);
-    p.drawText(QRectF(marge, y, largeur * bords[0], rangée), Qt::AlignLeft | Qt::AlignVCenter,
-               tableau[r][0]);
+    const qreal y = dessus + r * rangée + (r > 0 ? h * 0.01 : 0);
+    p.drawText(QRectF(marge, y, std::max<qreal>(0, bords[0]), rangée),
+               Qt::AlignLeft | Qt::AlignVCenter,
+               QFontMetricsF(police).elidedText(tableau[r][0], Qt::ElideRight,
+                                                std::max<qreal>(0, bords[0] - h * 0.01)));
     for (int c = 1; c < 6; ++c)
-      p.drawText(
-          QRectF(marge + largeur * bords[c - 1], y, largeur * (bords[c] - bords[c - 1]), rangée),
-          Qt::AlignRight | Qt::AlignVCenter, tableau[r][c]);
+      p.drawText(QRectF(marge + bords[c - 1], y, bords[c] - bords[c - 1], rangée),
+                 Qt::AlignRight | Qt::AlignVCenter, tableau[r][c]);
   }
   if (lecture.lignesIgnorées > 0) {
     p.setFont(PolicePixels(h * 0.024));

@@ -12,15 +12,18 @@
 #include <QStringDecoder>
 #include <QTextDocument>
 
+#include "files/format.h"
+
 namespace {
 // Far above any page or picture of a panel; anything larger is not one.
 constexpr qint64 TailleMaximale = 2 * 1024 * 1024;
 
 QByteArray LitFichier(const QUrl &url) {
-  QFile fichier(url.toLocalFile());
-  if (!fichier.open(QIODevice::ReadOnly) || fichier.size() > TailleMaximale)
+  const auto lu = format::LitFichier(QFile::encodeName(url.toLocalFile()).toStdString(),
+                                     static_cast<std::size_t>(TailleMaximale));
+  if (lu.état != format::Lecture::Lu || lu.tronqué)
     return {};
-  return fichier.readAll();
+  return QByteArray::fromStdString(lu.octets);
 }
 // A picture written into the page itself ("data:image/png;base64,...").
 QByteArray DonnéesEnLigne(const QUrl &url) {
