@@ -8,15 +8,15 @@ racine=$(cd "$(dirname "$0")/.." && pwd)
 export TN_PAQUETS_EN_PLUS=paquets-verification.txt
 
 # Configured for /usr, as a distribution builds it, so that the same build
-# is installed and packaged below.
-"$racine/scripts/preparer.sh" "$racine/build" -DTN_WERROR=ON -DCMAKE_INSTALL_PREFIX=/usr \
-  -DCMAKE_INSTALL_BINDIR=games
+# is installed below (its binaries go to /usr/games with no other setting).
+"$racine/scripts/preparer.sh" "$racine/build" -DTN_WERROR=ON -DCMAKE_INSTALL_PREFIX=/usr
 (cd "$racine/build" && ctest --output-on-failure --timeout 600)
 # The window tests once more on a virtual X screen with no window manager,
 # where no window is made active by itself.
 (cd "$racine/build" && xvfb-run -a -s "-screen 0 1280x1024x24" ./troisniveaux-tests-fenetre --gtest_brief=1)
 
 "$racine/scripts/installation.sh" "$racine/build"
+"$racine/scripts/paquet-debian.sh"
 
 "$racine/scripts/preparer.sh" "$racine/build-asan" -DTN_WERROR=ON -DTN_SANITIZE=ON -DTN_BENCH=OFF
 (cd "$racine/build-asan" && ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 \
