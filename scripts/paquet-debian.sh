@@ -96,8 +96,9 @@ rm -rf contenu && dpkg-deb -x troisniveaux_"$version"_*.deb contenu
 symboles=$(dpkg-deb -c troisniveaux-dbgsym_"$version"_*.deb)
 for programme in contenu/usr/games/*; do
   id=$(readelf -n "$programme" | awk '/Build ID/ { print $3 }')
-  [[ -n "$id" ]] && grep -q "/\.build-id/${id:0:2}/${id:2}\.debug$" <<<"$symboles" ||
+  if [[ -z "$id" ]] || ! grep -q "/\.build-id/${id:0:2}/${id:2}\.debug$" <<<"$symboles"; then
     echec "troisniveaux-dbgsym n'a pas les symboles de $(basename "$programme")"
+  fi
 done
 grep -q 'tests passed' "$premier.journal" || echec "les tests n'ont pas tourné pendant la construction"
 
