@@ -9,9 +9,8 @@ racine=$(cd "$(dirname "$0")/.." && pwd)
 export TN_PAQUETS_EN_PLUS=paquets-verification.txt
 
 # Configured for /usr, as a distribution builds it, so that the same build
-# is installed and packaged below.
-"$racine/scripts/preparer.sh" "$racine/build" -DTN_WERROR=ON -DCMAKE_INSTALL_PREFIX=/usr \
-  -DCMAKE_INSTALL_BINDIR=games
+# is installed below (its binaries go to /usr/games with no other setting).
+"$racine/scripts/preparer.sh" "$racine/build" -DTN_WERROR=ON -DCMAKE_INSTALL_PREFIX=/usr
 (cd "$racine/build" && ctest --output-on-failure --timeout 600)
 # The window tests once more on a virtual X screen with no window manager,
 # where no window is made active by itself.
@@ -20,6 +19,7 @@ export TN_PAQUETS_EN_PLUS=paquets-verification.txt
 "$racine/scripts/verifier-wayland.sh" "$racine/build"
 
 "$racine/scripts/installation.sh" "$racine/build"
+"$racine/scripts/paquet-debian.sh"
 
 "$racine/scripts/preparer.sh" "$racine/build-asan" -DTN_WERROR=ON -DTN_SANITIZE=ON -DTN_BENCH=OFF
 (cd "$racine/build-asan" && ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1 \

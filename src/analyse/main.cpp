@@ -6,6 +6,10 @@
 #include "analyse/commande_historique.h"
 #include "analyse/commande_main.h"
 
+#ifndef TN_VERSION
+#define TN_VERSION "0"
+#endif
+
 int CommandeDonne(const std::vector<std::string> &arguments);
 
 namespace {
@@ -13,7 +17,8 @@ namespace {
 const char *const Aide = "Usage : troisniveaux-analyse main [--json] C1 ... C13\n"
                          "        troisniveaux-analyse donne ...\n"
                          "        troisniveaux-analyse historique [--json] [FICHIER]\n"
-                         "        troisniveaux-analyse <commande> --help\n";
+                         "        troisniveaux-analyse <commande> --help\n"
+                         "        troisniveaux-analyse --version\n";
 
 } // namespace
 
@@ -33,6 +38,10 @@ int main(int argc, char **argv) {
     return CommandeDonne(suite);
   if (commande == "--help" || commande == "-h") {
     std::cout << Aide;
+    return 0;
+  }
+  if (commande == "--version" || commande == "-V") {
+    std::cout << "troisniveaux-analyse " << TN_VERSION << "\n";
     return 0;
   }
   std::cerr << "Commande inconnue : « " << commande << " ».\n" << Aide;

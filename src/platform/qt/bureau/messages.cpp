@@ -51,6 +51,8 @@ const char *const Modèles[] = {
                                   "continue ; le fichier a pu rester incomplet."),
     QT_TRANSLATE_NOOP("Messages", "Impossible d'enregistrer le fichier « %1 » (%2) : %3. La partie "
                                   "continue ; l'ancien fichier est conservé."),
+    QT_TRANSLATE_NOOP("Messages", "Impossible d'enregistrer le fichier « %1 » (%2) : %3. La partie "
+                                  "continue sans ce fichier."),
     QT_TRANSLATE_NOOP("Messages", "L'historique des scores ne peut pas être enregistré dans le "
                                   "fichier « %1 » (%2). La partie continue sans lui."),
     QT_TRANSLATE_NOOP("Messages", "Le dossier « %1 » ne peut pas être créé."),
@@ -63,6 +65,7 @@ const char *const Modèles[] = {
 
 // The reasons a file was not written, which stand in the messages above.
 [[maybe_unused]] const char *const Raisons[] = {
+    QT_TRANSLATE_NOOP("Messages", "le dossier des données n'existe plus"),
     QT_TRANSLATE_NOOP("Messages", "un dossier porte ce nom"),
     QT_TRANSLATE_NOOP("Messages", "ce nom n'est pas celui d'un fichier ordinaire (un tube, un "
                                   "périphérique ou un lien vers l'un d'eux)"),
