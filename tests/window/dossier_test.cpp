@@ -264,6 +264,8 @@ TEST(FichiersHostiles, UnRenommageInterrompuDesRéglagesNeLaisseRien) {
 TEST(FichiersHostiles, UneGéométrieAbîméeOuMinusculeDonneLaTailleDeLaTable) {
   RéglagesÀPart réglages;
   Table table;
+  // With nothing saved: the table's own size, fitted to the screen.
+  table.fenêtre.RetrouveTaille();
   const QSize dessin = table.fenêtre.size();
   table.fenêtre.resize(table.fenêtre.minimumSize());
   for (const QByteArray &géométrie :
