@@ -2,6 +2,205 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="fr">
 <context>
+    <name>Accessibilite</name>
+    <message>
+        <source>deux</source>
+        <translation>two</translation>
+    </message>
+    <message>
+        <source>trois</source>
+        <translation>three</translation>
+    </message>
+    <message>
+        <source>quatre</source>
+        <translation>four</translation>
+    </message>
+    <message>
+        <source>cinq</source>
+        <translation>five</translation>
+    </message>
+    <message>
+        <source>six</source>
+        <translation>six</translation>
+    </message>
+    <message>
+        <source>sept</source>
+        <translation>seven</translation>
+    </message>
+    <message>
+        <source>huit</source>
+        <translation>eight</translation>
+    </message>
+    <message>
+        <source>neuf</source>
+        <translation>nine</translation>
+    </message>
+    <message>
+        <source>dix</source>
+        <translation>ten</translation>
+    </message>
+    <message>
+        <source>valet</source>
+        <translation>jack</translation>
+    </message>
+    <message>
+        <source>dame</source>
+        <translation>queen</translation>
+    </message>
+    <message>
+        <source>roi</source>
+        <translation>king</translation>
+    </message>
+    <message>
+        <source>as</source>
+        <translation>ace</translation>
+    </message>
+    <message>
+        <source>trèfle</source>
+        <translation>clubs</translation>
+    </message>
+    <message>
+        <source>carreau</source>
+        <translation>diamonds</translation>
+    </message>
+    <message>
+        <source>cœur</source>
+        <translation>hearts</translation>
+    </message>
+    <message>
+        <source>pique</source>
+        <translation>spades</translation>
+    </message>
+    <message>
+        <source>%1 de %2</source>
+        <translation>%1 of %2</translation>
+    </message>
+    <message>
+        <source>Solution de l&apos;ordinateur</source>
+        <translation>The computer&apos;s solution</translation>
+    </message>
+    <message>
+        <source>Règles du jeu</source>
+        <translation>Rules of the game</translation>
+    </message>
+    <message>
+        <source>Page précédente</source>
+        <translation>Previous page</translation>
+    </message>
+    <message>
+        <source>Page suivante</source>
+        <translation>Next page</translation>
+    </message>
+    <message>
+        <source>Trois Niveaux</source>
+        <translation>Trois Niveaux</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>Noms des joueurs</source>
+        <translation>Players&apos; names</translation>
+    </message>
+    <message>
+        <source>Horloge</source>
+        <translation>Clock</translation>
+    </message>
+    <message>
+        <source>Connexion</source>
+        <translation>Connection</translation>
+    </message>
+    <message>
+        <source>%1, levée</source>
+        <translation>%1, picked up</translation>
+    </message>
+    <message>
+        <source>presser</source>
+        <translation>hurry</translation>
+    </message>
+    <message>
+        <source>L&apos;ordinateur finit sa recherche sans attendre</source>
+        <translation>The computer finishes its search at once</translation>
+    </message>
+    <message>
+        <source>carte cachée</source>
+        <translation>hidden card</translation>
+    </message>
+    <message>
+        <source>%1, niveau %2</source>
+        <translation>%1, level %2</translation>
+    </message>
+    <message>
+        <source>Recherche de l&apos;ordinateur</source>
+        <translation>The computer&apos;s search</translation>
+    </message>
+    <message>
+        <source>Nom du joueur %1</source>
+        <translation>Name of player %1</translation>
+    </message>
+    <message>
+        <source>jeu de %1</source>
+        <translation>%1&apos;s hand</translation>
+    </message>
+    <message>
+        <source>score de %1 : %2</source>
+        <translation>%1&apos;s score: %2</translation>
+    </message>
+    <message>
+        <source>total de la donne de %1 : %2</source>
+        <translation>%1&apos;s deal total: %2</translation>
+    </message>
+    <message>
+        <source>%1 : %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1, niveau %2 : %3</source>
+        <translation>%1, level %2: %3</translation>
+    </message>
+    <message>
+        <source>%1, niveau %2 contre %3 : %4</source>
+        <translation>%1, level %2 against %3: %4</translation>
+    </message>
+    <message>
+        <source>paiements de %1 au niveau %2</source>
+        <translation>%1&apos;s payments at level %2</translation>
+    </message>
+    <message>
+        <source>page %1 sur %2</source>
+        <translation>page %1 of %2</translation>
+    </message>
+    <message>
+        <source>horloge</source>
+        <translation>clock</translation>
+    </message>
+    <message>
+        <source>horloge : %1</source>
+        <translation>clock: %1</translation>
+    </message>
+    <message>
+        <source>Fin de la donne.</source>
+        <translation>End of the deal.</translation>
+    </message>
+    <message>
+        <source>%1 : total de la donne %2, score %3.</source>
+        <translation>%1: deal total %2, score %3.</translation>
+    </message>
+    <message>
+        <source>%1 : %2, total de la donne %3, score %4.</source>
+        <translation>%1: %2, deal total %3, score %4.</translation>
+    </message>
+    <message>
+        <source>Solution de l&apos;ordinateur pour %1.</source>
+        <translation>The computer&apos;s solution for %1.</translation>
+    </message>
+    <message>
+        <source>Niveau %1 : %2</source>
+        <translation>Level %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>Cartes</name>
     <message>
         <source>V</source>

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QFile>
 #include <QImage>
@@ -13,6 +14,7 @@
 
 #include "platform/qt/bureau/langue.h"
 #include "platform/qt/bureau/messages.h"
+#include "platform/qt/fenetre/accessibilite.h"
 #include "platform/qt/fenetre/images.h"
 #include "platform/qt/fenetre/vue_controle.h"
 #include "table_essai.h"
@@ -275,6 +277,12 @@ TEST(Langues, F12ChangeDeLangueEtRedessineTout) {
   auto *fermer =
       table.fenêtre.findChild<QWidget *>("panneauHistorique")->findChild<QPushButton *>();
   ASSERT_NE(fermer, nullptr);
+  // What a screen reader hears follows too, players' names aside.
+  const auto lu = [](QWidget *w) {
+    return QAccessible::queryAccessibleInterface(w)->text(QAccessible::Name);
+  };
+  QWidget *carte = table.Vue(f.CartesJeu[39]), *résumé = table.fenêtre.Lecteur().Résumé();
+  const QStringList entendu{lu(carte), lu(table.Vue(f.NouveauJeu)), lu(résumé)};
   table.Touche(Qt::Key_F12);
   QCoreApplication::processEvents();
   EXPECT_EQ(LangueParlée(), "en");
@@ -282,6 +290,13 @@ TEST(Langues, F12ChangeDeLangueEtRedessineTout) {
   EXPECT_EQ(TexteAffiché(f.NouveauJeu), "PLAY");
   EXPECT_EQ(fermer->text(), "CLOSE");
   EXPECT_EQ(table.Vue(f.NouveauJeu)->toolTip(), "PLAY — F2 key");
+  EXPECT_EQ(NomDeCarte(34), "ten of hearts");
+  EXPECT_EQ(lu(carte), NomDeCarte(f.CartesJeu[39].Picture) + ", level 1");
+  EXPECT_EQ(lu(table.Vue(f.NouveauJeu)), "PLAY");
+  EXPECT_EQ(lu(table.Vue(f.NomsJoueursText[1])->findChild<QLineEdit *>()), "Name of player 2");
+  EXPECT_TRUE(lu(résumé).startsWith("End of the deal. MicroProc: ") &&
+              lu(résumé).contains("deal total"))
+      << lu(résumé).toStdString();
   EXPECT_NE(table.Vue(f.NiveauLabel[0])->width(), niveau) << "LEVEL 1 is narrower";
   const auto anglais = image();
   EXPECT_TRUE(anglais.first != français.first && anglais.second != français.second);
@@ -290,6 +305,7 @@ TEST(Langues, F12ChangeDeLangueEtRedessineTout) {
   EXPECT_EQ(LangueParlée(), "fr");
   EXPECT_EQ(fermer->text(), "FERMER");
   EXPECT_EQ(table.Vue(f.NouveauJeu)->toolTip(), "JOUER — touche F2");
+  EXPECT_EQ(QStringList({lu(carte), lu(table.Vue(f.NouveauJeu)), lu(résumé)}), entendu);
   EXPECT_TRUE(image() == français);
   QSettings().remove("langue");
 }

@@ -14,12 +14,22 @@
 #include "platform/qt/fenetre/vue_controle.h"
 
 QString NomDeCarte(int code) {
-  static const char *const rangs[13] = {"deux", "trois", "quatre", "cinq", "six", "sept", "huit",
-                                        "neuf", "dix",   "valet",  "dame", "roi", "as"};
-  static const char *const couleurs[4] = {"trèfle", "carreau", "cœur", "pique"};
+  static const char *const rangs[13] = {
+      QT_TRANSLATE_NOOP("Accessibilite", "deux"),  QT_TRANSLATE_NOOP("Accessibilite", "trois"),
+      QT_TRANSLATE_NOOP("Accessibilite", "quatre"), QT_TRANSLATE_NOOP("Accessibilite", "cinq"),
+      QT_TRANSLATE_NOOP("Accessibilite", "six"),   QT_TRANSLATE_NOOP("Accessibilite", "sept"),
+      QT_TRANSLATE_NOOP("Accessibilite", "huit"),  QT_TRANSLATE_NOOP("Accessibilite", "neuf"),
+      QT_TRANSLATE_NOOP("Accessibilite", "dix"),   QT_TRANSLATE_NOOP("Accessibilite", "valet"),
+      QT_TRANSLATE_NOOP("Accessibilite", "dame"),  QT_TRANSLATE_NOOP("Accessibilite", "roi"),
+      QT_TRANSLATE_NOOP("Accessibilite", "as")};
+  static const char *const couleurs[4] = {
+      QT_TRANSLATE_NOOP("Accessibilite", "trèfle"), QT_TRANSLATE_NOOP("Accessibilite", "carreau"),
+      QT_TRANSLATE_NOOP("Accessibilite", "cœur"), QT_TRANSLATE_NOOP("Accessibilite", "pique")};
   if (code < 0 || code > 51)
     return QString();
-  return QString("%1 de %2").arg(rangs[code % 13], couleurs[code / 13]);
+  return QCoreApplication::translate("Accessibilite", "%1 de %2")
+      .arg(QCoreApplication::translate("Accessibilite", rangs[code % 13]),
+           QCoreApplication::translate("Accessibilite", couleurs[code / 13]));
 }
 
 // Texts for readers only are in the context "Accessibilite" of the
@@ -55,15 +65,15 @@ int NiveauDeLaPlace(int place) { return place < 5 ? 1 : place < 10 ? 2 : 3; }
 QString NomDImage(int image) {
   switch (image) {
   case ImageOrdinateur:
-    return "Solution de l'ordinateur";
+    return QCoreApplication::translate("Accessibilite", "Solution de l'ordinateur");
   case ImageLivre:
-    return "Règles du jeu";
+    return QCoreApplication::translate("Accessibilite", "Règles du jeu");
   case ImageMainHaut:
-    return "Page précédente";
+    return QCoreApplication::translate("Accessibilite", "Page précédente");
   case ImageMainBas:
-    return "Page suivante";
+    return QCoreApplication::translate("Accessibilite", "Page suivante");
   case ImageTitre:
-    return "Trois Niveaux";
+    return QCoreApplication::translate("Accessibilite", "Trois Niveaux");
   default:
     return QString();
   }
@@ -71,15 +81,15 @@ QString NomDImage(int image) {
 
 QString NomDePanneau(const Contrôle &c) {
   if (c.Nom == "MenuSS")
-    return "Menu";
+    return QCoreApplication::translate("Accessibilite", "Menu");
   if (c.Nom == "RèglesText")
-    return "Règles du jeu";
+    return QCoreApplication::translate("Accessibilite", "Règles du jeu");
   if (c.Nom == "NomsJoueursSS")
-    return "Noms des joueurs";
+    return QCoreApplication::translate("Accessibilite", "Noms des joueurs");
   if (c.Nom == "TempsSS")
-    return "Horloge";
+    return QCoreApplication::translate("Accessibilite", "Horloge");
   if (c.Nom == "NonConnectéPic")
-    return "Connexion";
+    return QCoreApplication::translate("Accessibilite", "Connexion");
   return QString();
 }
 
@@ -189,6 +199,20 @@ public:
     setGeometry(0, 0, 1, 1);
   }
   QString phrase;
+  std::function<QString()> refait; // the sentence as it stands, in the language spoken
+
+protected:
+  // F12 touches no control of the table: the sentence must follow on its own.
+  void changeEvent(QEvent *e) override {
+    if (e->type() == QEvent::LanguageChange && !phrase.isEmpty() && refait) {
+      phrase = refait();
+      if (hasFocus()) {
+        QAccessibleEvent nom(this, QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&nom);
+      }
+    }
+    QWidget::changeEvent(e);
+  }
 };
 
 class RésuméAccessible : public QAccessibleWidget {
@@ -405,28 +429,29 @@ QAccessibleInterface *Fabrique(const QString &, QObject *objet) {
 QString NomAccessible(const Contrôle &c) {
   switch (c.genre) {
   case Genre::Bouton:
-    return c.Caption.empty() ? NomDImage(c.Picture) : Texte(c.Caption).simplified();
+    return c.Caption.empty() ? NomDImage(c.Picture) : TexteAffiché(c).simplified();
   case Genre::Étiquette:
-    return Texte(c.Caption).simplified();
+    return TexteAffiché(c).simplified();
   case Genre::Image:
     if (!EstCarte(c))
       return NomDImage(c.Picture);
     if (c.Picture < 0 || c.Picture > 51)
-      return "carte cachée";
-    return QString("%1, niveau %2")
+      return QCoreApplication::translate("Accessibilite", "carte cachée");
+    return QCoreApplication::translate("Accessibilite", "%1, niveau %2")
         .arg(NomDeCarte(c.Picture))
         .arg(NiveauDeLaPlace(std::stoi(c.Nom.substr(10)) % 13));
   case Genre::Barre:
-    return "Recherche de l'ordinateur";
+    return QCoreApplication::translate("Accessibilite", "Recherche de l'ordinateur");
   case Genre::Texte: // "NomsJoueursText(2)"
-    return QString("Nom du joueur %1").arg(c.Nom.empty() ? 0 : c.Nom[c.Nom.size() - 2] - '0' + 1);
+    return QCoreApplication::translate("Accessibilite", "Nom du joueur %1")
+        .arg(c.Nom.empty() ? 0 : c.Nom[c.Nom.size() - 2] - '0' + 1);
   default:
     return NomDePanneau(c);
   }
 }
 
 QString NomAccessible(const Contrôle &c, const Contrôles &f) {
-  const QString texte = Texte(c.Caption).simplified();
+  const QString texte = TexteAffiché(c).simplified();
   if (int s = Index(c, f.SSJoueur); s >= 0)
     return Joueur(f, s);
   if (int s = Index(c, f.SSJoueurFond); s >= 0)
@@ -468,9 +493,9 @@ QString NomAccessible(const Contrôle &c, const Contrôles &f) {
 QString RésuméDeLaDonne(const Contrôles &f) {
   QStringList phrases{QCoreApplication::translate("Accessibilite", "Fin de la donne.")};
   for (int s = 0; s <= 3; ++s) {
-    const QString nom = Joueur(f, s), spéciale = Texte(f.ExtraLabel[s].Caption).simplified(),
-                  total = Texte(f.TotalLabel[s].Caption).simplified(),
-                  score = Texte(f.ScoreLabel[s].Caption).simplified();
+    const QString nom = Joueur(f, s), spéciale = TexteAffiché(f.ExtraLabel[s]).simplified(),
+                  total = TexteAffiché(f.TotalLabel[s]).simplified(),
+                  score = TexteAffiché(f.ScoreLabel[s]).simplified();
     phrases << (spéciale.isEmpty()
                     ? QCoreApplication::translate("Accessibilite",
                                                   "%1 : total de la donne %2, score %3.")
@@ -497,9 +522,9 @@ QString RésuméDeLaSolution(const Contrôles &f) {
     const Contrôle &classe = f.EnchèreLabel[9 + 2 - n];
     phrases << QCoreApplication::translate("Accessibilite", "Niveau %1 : %2")
                        .arg(QString::number(3 - n), cartes.join(", ")) +
-                   (classe.Visible ? ", " + Texte(classe.Caption).simplified() : QString()) + ".";
+                   (classe.Visible ? ", " + TexteAffiché(classe).simplified() : QString()) + ".";
   }
-  if (const QString spéciale = Texte(f.ExtraLabel[3].Caption).simplified(); !spéciale.isEmpty())
+  if (const QString spéciale = TexteAffiché(f.ExtraLabel[3]).simplified(); !spéciale.isEmpty())
     phrases << spéciale + ".";
   phrases << NomAccessible(f.TotalLabel[3], f) + ".";
   return phrases.join(' ');
@@ -529,7 +554,11 @@ void SignaleAuLecteur(VueContrôle *vue, const Contrôle &avant) {
 }
 
 SuiviLecteur::SuiviLecteur(FenêtreTable &fenêtre, TroisNiveaux &t)
-    : fenêtre(fenêtre), t(t), résumé(new RésuméWidget(fenêtre.Fond())) {}
+    : fenêtre(fenêtre), t(t), résumé(new RésuméWidget(fenêtre.Fond())) {
+  static_cast<RésuméWidget *>(résumé)->refait = [this] {
+    return solution ? RésuméDeLaSolution(this->t.Fenêtre) : RésuméDeLaDonne(this->t.Fenêtre);
+  };
+}
 
 void SuiviLecteur::Annonce(const QString &phrase) {
   static_cast<RésuméWidget *>(résumé)->phrase = phrase;

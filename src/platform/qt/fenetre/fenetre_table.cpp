@@ -206,7 +206,6 @@ void FenêtreTable::Relie() {
   // The one way back from the widgets: what is typed in the names panel.
   for (int s = 0; s <= 3; ++s) {
     auto *v = vueDe.value(&f.NomsJoueursText[s]);
-    v->saisie->setAccessibleName(QString("Nom du joueur %1").arg(s + 1));
     QObject::connect(v->saisie, &QLineEdit::textChanged, this, [this, s](const QString &texte) {
       t.Fenêtre.NomsJoueursText[s].Text = texte.toStdString();
     });

@@ -102,6 +102,7 @@ VueContrôle::VueContrôle(const Contrôle &c, const double &échelle, QWidget *
     saisie = new QLineEdit(this);
     saisie->setValidator(new ValidateurNom(saisie));
     saisie->setFrame(true);
+    saisie->setAccessibleName(NomAccessible(c));
   }
   // Buttons take the keyboard by Tab only: a click leaves it where it was.
   if (c.genre == Genre::Bouton)
@@ -195,8 +196,11 @@ void VueContrôle::PlaceÉtrangers() {
 
 bool VueContrôle::event(QEvent *e) {
   // Another language: the texts, and the labels that fit their text, anew.
-  if (e->type() == QEvent::LanguageChange)
+  if (e->type() == QEvent::LanguageChange) {
     ChangeÉchelle();
+    if (saisie)
+      saisie->setAccessibleName(NomAccessible(modèle));
+  }
   // A foreign widget (a web view) is placed by its maker at the designed
   // size before it is shown; from its first polish on it follows the scale.
   if (e->type() == QEvent::ChildPolished) {
