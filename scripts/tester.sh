@@ -11,6 +11,7 @@ export TN_PAQUETS_EN_PLUS=paquets-verification.txt
 # is installed and packaged below.
 "$racine/scripts/preparer.sh" "$racine/build" -DTN_WERROR=ON -DCMAKE_INSTALL_PREFIX=/usr \
   -DCMAKE_INSTALL_BINDIR=games
+"$racine/scripts/verifier-format.sh"
 (cd "$racine/build" && ctest --output-on-failure --timeout 600)
 # The window tests once more on a virtual X screen with no window manager,
 # where no window is made active by itself.
