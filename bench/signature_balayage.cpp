@@ -58,7 +58,8 @@ SignatureBalayage CalculeSignature(TroisNiveaux &t, bool compare) {
       s.toutQuinte[d][j] = t.ToutQuinte[j];
       s.sixPaires[d][j] = t.SixPaires[j];
       s.mégaQuinte[d][j] = t.MégaQuinte[j];
-      s.empreinte = (s.empreinte ^ static_cast<uint32_t>(t.MeilleurRangement[j])) * 1099511628211ull;
+      s.empreinte =
+          (s.empreinte ^ static_cast<uint32_t>(t.MeilleurRangement[j])) * 1099511628211ull;
     }
   }
   return s;
