@@ -1,8 +1,12 @@
 #pragma once
 // The table state: the one record of the game, and the procedures that work
-// on it. The procedures take no arguments and return nothing; they find what
-// they need in the record and in the window's controls. Their definitions are
-// spread over the subsystem folders, one subsystem to a file.
+// on it. Most procedures take no arguments and return nothing: they find what
+// they need in the record and in the window's controls. The others take only
+// what the caller alone knows (a control's index, a seat, a card slot, a
+// display mode, the names to write, the menu on or off, whether to tell a
+// failure), and three return a flag (NetworkStatus, LitNoms, LitScores).
+// Their definitions are spread over the subsystem folders, one subsystem to
+// a file.
 
 #include <array>
 #include <cstdint>

@@ -6,7 +6,7 @@
 #include "analyse/commande_main.h"
 #include "analyse/session_analyse.h"
 #include "analyse/texte.h"
-#include "dossier_essai.h"
+#include "partie_essai.h"
 
 int CommandeDonne(const std::vector<std::string> &arguments);
 
@@ -91,12 +91,9 @@ TEST(AnalyseDonne, LesArgumentsFautifsSortentAvecLeCodeDeux) {
 
 TEST(AnalyseDonne, LaDonneExperteDeRéférenceEnJson) {
   DossierEssai dossier;
-  std::string tirage;
-  for (int c : {1,  17, 14, 19, 38, 2,  13, 4,  24, 43, 25, 33, 26, 22, 3,  36, 10, 0,
-                8,  9,  27, 49, 47, 48, 35, 39, 32, 23, 6,  34, 5,  46, 41, 20, 50, 37,
-                45, 16, 29, 18, 44, 31, 15, 28, 30, 51, 40, 12, 42, 21, 7,  11})
-    tirage += std::to_string(c) + "\r\n";
-  dossier.Écrit("Tirage", tirage);
+  // The command plays the human's cards as the file lays them out.
+  const auto &d = DonneDeRéférence;
+  dossier.Écrit("Tirage", TexteDeTirage({d[0], d[1], d[2], DispositionDeRéférence}));
   const std::string fichier = dossier.Chemin() + "/Tirage";
   testing::internal::CaptureStdout();
   ASSERT_EQ(CommandeDonne({"--expert", "--tirage", fichier, "--json"}), 0);

@@ -134,11 +134,10 @@ TEST(RapideContreLittéral, UnSiègeSeul) {
     rapide.Main(3, main), littéral.Main(3, main);
     rapide.t.ChercheSiège(3);
     littéral.t.OrdiJoueLittéral();
-    EXPECT_EQ(rapide.t.MeilleurRangement[3], littéral.t.MeilleurRangement[3]);
-    EXPECT_EQ(rapide.t.MeilleureValeur, littéral.t.MeilleureValeur);
-    for (auto drapeaux :
-         {&TroisNiveaux::ToutFlush, &TroisNiveaux::ToutQuinte, &TroisNiveaux::SixPaires, &TroisNiveaux::MégaQuinte})
-      EXPECT_EQ((rapide.t.*drapeaux)[3], (littéral.t.*drapeaux)[3]);
+    const auto &r = rapide.t, &l = littéral.t;
+    EXPECT_TRUE(r.MeilleurRangement[3] == l.MeilleurRangement[3] && r.MeilleureValeur == l.MeilleureValeur);
+    EXPECT_TRUE(r.ToutFlush[3] == l.ToutFlush[3] && r.ToutQuinte[3] == l.ToutQuinte[3] &&
+                r.SixPaires[3] == l.SixPaires[3] && r.MégaQuinte[3] == l.MégaQuinte[3]);
   }
 }
 

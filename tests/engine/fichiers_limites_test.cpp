@@ -19,12 +19,6 @@ int CommandeDonne(const std::vector<std::string> &arguments);
 
 namespace {
 
-// The reference deal of the EXPERT tests and the human's layout of it.
-const std::vector<std::vector<int>> Donne = {{1, 17, 14, 19, 38, 2, 13, 4, 24, 43, 25, 33, 26},
-                                             {22, 3, 36, 10, 0, 8, 9, 27, 49, 47, 48, 35, 39},
-                                             {32, 23, 6, 34, 5, 46, 41, 20, 50, 37, 45, 16, 29},
-                                             {11, 7, 21, 42, 12, 40, 51, 30, 28, 15, 31, 44, 18}};
-const std::vector<int> Disposition = {18, 44, 31, 15, 28, 30, 51, 40, 12, 42, 21, 7, 11};
 
 // Runs `essai` as an ordinary user, for whom a folder's permissions bind:
 // in a child that drops root for nobody, or here when not root. nullopt
@@ -86,11 +80,7 @@ TEST(FichiersLimites, QuatreLongsNomsSeRelisentTelsQuels) {
 TEST(FichiersLimites, UnScoreSArrêteAuxLimitesSansTournerEtSeRelit) {
   DossierEssai d;
   d.Écrit("Scores", "-2147483646\r\n2147483627\r\n0\r\n-2147483648\r\n");
-  std::string tirage;
-  for (const auto &main : Donne)
-    for (int c : main)
-      tirage += std::to_string(c) + "\r\n";
-  d.Écrit("Tirage", tirage);
+  d.Écrit("Tirage", TexteDeTirage(DonneDeRéférence));
   PlateformeSansFenêtre plateforme(d.Chemin());
   TroisNiveaux t(plateforme);
   t.Form_Load();
@@ -100,7 +90,7 @@ TEST(FichiersLimites, UnScoreSArrêteAuxLimitesSansTournerEtSeRelit) {
       return;
     for (int k = 0; k <= 12; ++k)
       for (int j = k + 1; j <= 12; ++j)
-        if (t.Mains[4][j] == Disposition[k]) {
+        if (t.Mains[4][j] == DispositionDeRéférence[k]) {
           t.CartesJeu_MouseUp(39 + k);
           t.CartesJeu_MouseUp(39 + j);
         }
@@ -129,7 +119,7 @@ TEST(FichiersLimites, UnScoreSArrêteAuxLimitesSansTournerEtSeRelit) {
 TEST(FichiersLimites, RejoueTaitUnTempsNonÉcritEtGoLeSignale) {
   Partie p(0);
   fs::create_directory(fs::path(p.dossier.Chemin()) / "Temps1");
-  p.Tirage(Donne);
+  p.Tirage(DonneDeRéférence);
   p.t.Rejoue_MouseUp();
   EXPECT_TRUE(p.t.Fenêtre.NouveauJeu.Enabled) << "the replay went to its end";
   EXPECT_TRUE(p.plateforme.erreurs.empty()) << p.plateforme.erreurs.front();

@@ -29,12 +29,6 @@ historique::Entrée Remise(const std::string &date) {
   return e;
 }
 
-const std::vector<std::vector<int>> DonneExperte = {
-    {1, 17, 14, 19, 38, 2, 13, 4, 24, 43, 25, 33, 26},
-    {22, 3, 36, 10, 0, 8, 9, 27, 49, 47, 48, 35, 39},
-    {32, 23, 6, 34, 5, 46, 41, 20, 50, 37, 45, 16, 29},
-    {11, 7, 21, 42, 12, 40, 51, 30, 28, 15, 31, 44, 18}};
-
 } // namespace
 
 TEST(Historique, LesLignesFontLAllerRetour) {
@@ -147,7 +141,7 @@ TEST(Historique, LesChiffresDeChaqueSiège) {
 // run, one for SCORES A 0; the analysis command reads the same figures back.
 TEST(Historique, LaPartieLAlimenteEtLaCommandeLeRésume) {
   Partie p(0);
-  p.Tirage(DonneExperte);
+  p.Tirage(DonneDeRéférence);
   p.plateforme.script = [&](int tour) {
     if (tour == 1)
       p.Dispose({18, 44, 31, 15, 28, 30, 51, 40, 12, 42, 21, 7, 11});

@@ -11,6 +11,25 @@
 #include "dossier_essai.h"
 #include "platform/sans_fenetre.h"
 
+// The reference EXPERT deal, seat by seat (the human's cards dealt back to
+// front), and the human's layout of it: the deal whose whole showdown the
+// tests know by heart.
+inline const std::vector<std::vector<int>> DonneDeRéférence = {
+    {1, 17, 14, 19, 38, 2, 13, 4, 24, 43, 25, 33, 26},
+    {22, 3, 36, 10, 0, 8, 9, 27, 49, 47, 48, 35, 39},
+    {32, 23, 6, 34, 5, 46, 41, 20, 50, 37, 45, 16, 29},
+    {11, 7, 21, 42, 12, 40, 51, 30, 28, 15, 31, 44, 18}};
+inline const std::vector<int> DispositionDeRéférence = {18, 44, 31, 15, 28, 30, 51, 40, 12, 42, 21, 7, 11};
+
+// The bytes of a Tirage file holding these hands.
+inline std::string TexteDeTirage(const std::vector<std::vector<int>> &mains) {
+  std::string octets;
+  for (const auto &main : mains)
+    for (int c : main)
+      octets += std::to_string(c) + "\r\n";
+  return octets;
+}
+
 struct Partie {
   DossierEssai dossier;
   PlateformeSansFenêtre plateforme{dossier.Chemin()};
@@ -24,13 +43,7 @@ struct Partie {
   }
 
   // The cards that REJOUE deals, seat by seat.
-  void Tirage(const std::vector<std::vector<int>> &mains) const {
-    std::string octets;
-    for (const auto &main : mains)
-      for (int c : main)
-        octets += std::to_string(c) + "\r\n";
-    dossier.Écrit("Tirage", octets);
-  }
+  void Tirage(const std::vector<std::vector<int>> &mains) const { dossier.Écrit("Tirage", TexteDeTirage(mains)); }
 
   // Lays the human's cards out in this order by clicks, as a player would.
   void Dispose(const std::vector<int> &voulu) {

@@ -9,13 +9,6 @@
 
 namespace {
 
-const std::vector<std::vector<int>> DonneExperte = {
-    {1, 17, 14, 19, 38, 2, 13, 4, 24, 43, 25, 33, 26},
-    {22, 3, 36, 10, 0, 8, 9, 27, 49, 47, 48, 35, 39},
-    {32, 23, 6, 34, 5, 46, 41, 20, 50, 37, 45, 16, 29},
-    {11, 7, 21, 42, 12, 40, 51, 30, 28, 15, 31, 44, 18}}; // the human's cards, dealt back to front
-const std::vector<int> DispositionExperte = {18, 44, 31, 15, 28, 30, 51, 40, 12, 42, 21, 7, 11};
-
 // Under the sanitizers a sweep is several times slower: fewer random deals.
 #ifdef __SANITIZE_ADDRESS__
 constexpr int DonnesAuHasard = 50;
@@ -27,10 +20,10 @@ constexpr int DonnesAuHasard = 150;
 
 TEST(Partie, LaDonneExperteDeRéférenceSePaieCommePrévu) {
   Partie p(0);
-  p.Tirage(DonneExperte);
+  p.Tirage(DonneDeRéférence);
   p.plateforme.script = [&](int tour) {
     if (tour == 1)
-      p.Dispose(DispositionExperte);
+      p.Dispose(DispositionDeRéférence);
   };
   p.t.Rejoue_MouseUp();
   EXPECT_EQ(std::vector<int>(p.t.MeilleurRangement, p.t.MeilleurRangement + 3),
@@ -45,13 +38,10 @@ TEST(Partie, LaDonneExperteDeRéférenceSePaieCommePrévu) {
   EXPECT_EQ(Partie::Textes(p.t.Fenêtre.TotalLabel), "-5 21 -7 -9");
   EXPECT_EQ(Partie::Textes(p.t.Fenêtre.ScoreLabel), "-5 21 -7 -9");
   EXPECT_EQ(p.t.Fenêtre.ScoreLabel[0].ForeColor, 0x0000FFu);
-  EXPECT_EQ(p.dossier.Lit("Scores"), "-5\r\n21\r\n-7\r\n-9\r\n");
   EXPECT_EQ(Partie::Textes(p.t.Fenêtre.EnchèreLabel, ","),
             "FLUSH,BRELAN,RIEN,CARRE,FULL,1 PAIRE,FULL,2 PAIRES,RIEN,FULL,1 PAIRE,RIEN");
   EXPECT_FALSE(p.t.Fenêtre.VoirOrdi[0].Visible) << "no solution view in EXPERT";
-  EXPECT_TRUE(p.dossier.Existe("Temps1"));
-  EXPECT_FALSE(p.dossier.Existe("Temps2"));
-
+  EXPECT_TRUE(p.dossier.Existe("Temps1") && !p.dossier.Existe("Temps2"));
   // A replay pays the same cards once more.
   p.plateforme.tours = 0;
   p.t.Rejoue_MouseUp();
@@ -63,8 +53,6 @@ TEST(Partie, JouerPuisGoPasseParLesÉtatsDeLaTable) {
   auto &f = p.t.Fenêtre;
   p.t.Arrêt_MouseUp(); // at Start there is nothing to stop
   EXPECT_FALSE(f.Arrêt.Enabled);
-  EXPECT_TRUE(f.NouveauJeu.Enabled && f.Rejoue.Enabled && !f.Joue.Visible);
-
   p.plateforme.script = [&](int tour) {
     // During the sweep: the menu is off, STOP on, the human's cards live.
     EXPECT_FALSE(f.NouveauJeu.Enabled || f.Rejoue.Enabled || f.Mode.Enabled || f.Scoresà0.Enabled ||
@@ -78,17 +66,14 @@ TEST(Partie, JouerPuisGoPasseParLesÉtatsDeLaTable) {
   p.t.NouveauJeu_MouseUp();
   EXPECT_EQ(p.plateforme.tours, 4 * 1287);
   EXPECT_TRUE(f.Joue.Visible && f.Arrêt.Enabled && !f.NouveauJeu.Enabled);
-  EXPECT_EQ(p.t.Mains[4][0], p.t.Mains[3][12]);
   EXPECT_EQ(f.CartesJeu[39].Picture, p.t.Mains[3][12]);
 
   p.plateforme.script = nullptr;
   p.t.TempsTimer_Timer();
   p.t.TempsTimer_Timer();
   p.t.Joue_Click();
-  EXPECT_FALSE(f.Joue.Visible || f.Arrêt.Enabled || f.TempsTimer.Enabled);
+  EXPECT_FALSE(f.Joue.Visible || f.Arrêt.Enabled || f.TempsTimer.Enabled || f.CartesJeu[45].Enabled);
   EXPECT_TRUE(f.NouveauJeu.Enabled && f.VoirOrdi[0].Visible && f.VoirOrdi[0].Enabled);
-  for (int i = 39; i <= 51; ++i)
-    EXPECT_FALSE(f.CartesJeu[i].Enabled);
   EXPECT_EQ(p.dossier.Lit("Temps2"), "2\r\n");
   EXPECT_EQ(p.SommeDesTotaux(), 0);
 
@@ -97,13 +82,9 @@ TEST(Partie, JouerPuisGoPasseParLesÉtatsDeLaTable) {
   p.t.Mode_MouseUp();
   p.t.Mode_MouseUp();
   EXPECT_TRUE(f.VoirOrdi[0].Visible);
-  p.plateforme.script = [&](int tour) {
-    if (tour == 1) {
-      EXPECT_EQ(f.TempsLabel.Caption, "2");
-    }
-  };
   p.t.NouveauJeu_MouseUp();
   EXPECT_FALSE(f.VoirOrdi[0].Visible);
+  EXPECT_EQ(f.TempsLabel.Caption, "2");
 }
 
 TEST(Partie, StopPendantLeBalayageRendLaTableEtLaisseRejouer) {
@@ -121,11 +102,8 @@ TEST(Partie, StopPendantLeBalayageRendLaTableEtLaisseRejouer) {
   p.t.NouveauJeu_MouseUp();
   EXPECT_EQ(p.plateforme.tours, 3);
   EXPECT_FALSE(f.Arrêt.Enabled || f.Joue.Visible || f.TempsTimer.Enabled);
-  EXPECT_TRUE(f.NouveauJeu.Enabled && f.Rejoue.Enabled);
-  EXPECT_EQ(f.TempsLabel.Caption, "");
-  EXPECT_EQ(p.t.CarteLevée, 0);
-  for (int c = 0; c <= 51; ++c)
-    EXPECT_EQ(f.CartesJeu[c].Picture, PasDeCarte);
+  EXPECT_TRUE(f.NouveauJeu.Enabled && f.Rejoue.Enabled && f.TempsLabel.Caption.empty());
+  EXPECT_EQ(f.CartesJeu[45].Picture, PasDeCarte);
   p.t.CartesJeu_MouseUp(40);
   EXPECT_EQ(p.t.CarteLevée, 0) << "slots enabled but inert after a STOP";
   EXPECT_FALSE(p.dossier.Existe("Temps2"));
@@ -136,7 +114,6 @@ TEST(Partie, StopPendantLeBalayageRendLaTableEtLaisseRejouer) {
   p.plateforme.script = nullptr;
   p.t.Rejoue_MouseUp();
   EXPECT_EQ(p.t.Mains[0][0], premier);
-  EXPECT_TRUE(f.VoirOrdi[0].Visible);
   EXPECT_NE(f.LabelPaie[0].Caption, "");
 }
 
@@ -145,13 +122,11 @@ TEST(Partie, StopAprèsLeBalayageLaisseGoEtLeChangementDeModeCherchePourLHumain)
   auto &f = p.t.Fenêtre;
   p.t.NouveauJeu_MouseUp();
   p.t.Arrêt_MouseUp();
-  EXPECT_TRUE(f.Joue.Visible && f.NouveauJeu.Enabled && !f.Arrêt.Enabled);
-  EXPECT_TRUE(f.TempsTimer.Enabled) << "the clock runs on until GO";
+  EXPECT_TRUE(f.Joue.Visible && f.NouveauJeu.Enabled && f.TempsTimer.Enabled && !f.Arrêt.Enabled);
   p.t.Mode_MouseUp(); // DEBUTANT before GO
   p.t.Joue_Click();
   EXPECT_GT(p.t.MeilleurRangement[3], 0) << "the human's cards were searched before valuing";
-  EXPECT_TRUE(f.VoirOrdi[0].Visible);
-  EXPECT_TRUE(p.dossier.Existe("Temps2"));
+  EXPECT_TRUE(f.VoirOrdi[0].Visible && p.dossier.Existe("Temps2"));
   const std::string fichier = p.dossier.Lit("Scores");
   const std::vector<int32_t> avant(p.t.Scores, p.t.Scores + 4);
 
@@ -176,18 +151,18 @@ TEST(Partie, StopAprèsLeBalayageLaisseGoEtLeChangementDeModeCherchePourLHumain)
 TEST(Partie, ScoresÀZéroAvantEtAprèsLAbattage) {
   Partie p;
   auto &f = p.t.Fenêtre;
+  const std::string zéros = "0\r\n0\r\n0\r\n0\r\n";
   p.dossier.Écrit("Scores", "5\r\n6\r\n7\r\n8\r\n");
   p.t.LitScores();
   // Waiting for GO, STOP, SCORES A 0: the deal is shown and paid to nobody.
   p.t.NouveauJeu_MouseUp();
   p.t.Arrêt_MouseUp();
   p.t.Scoresà0_MouseUp();
-  EXPECT_EQ(p.dossier.Lit("Scores"), "0\r\n0\r\n0\r\n0\r\n");
+  EXPECT_EQ(p.dossier.Lit("Scores"), zéros);
   p.t.Joue_Click();
   EXPECT_EQ(std::vector<int32_t>(p.t.Scores, p.t.Scores + 4), std::vector<int32_t>(4, 0));
   EXPECT_NE(f.TotalLabel[0].Caption, "");
-  EXPECT_EQ(f.ScoreLabel[0].Caption, "0");
-  EXPECT_EQ(p.dossier.Lit("Scores"), "0\r\n0\r\n0\r\n0\r\n");
+  EXPECT_EQ(p.dossier.Lit("Scores"), zéros);
 
   // After a showdown it leaves the result on the table, and from then on the
   // view moves the totals but never the scores.
@@ -195,16 +170,11 @@ TEST(Partie, ScoresÀZéroAvantEtAprèsLAbattage) {
   p.t.Joue_Click();
   const std::string total = f.TotalLabel[3].Caption;
   p.t.Scoresà0_MouseUp();
-  EXPECT_EQ(f.TotalLabel[3].Caption, total);
-  EXPECT_EQ(p.dossier.Lit("Scores"), "0\r\n0\r\n0\r\n0\r\n");
   p.t.VoirOrdi_Click(0);
   p.t.VoirOrdi_Click(1);
-  for (int s = 0; s <= 3; ++s) {
-    EXPECT_EQ(p.t.Scores[s], 0);
-    EXPECT_EQ(f.ScoreLabel[s].Caption, "0");
-  }
+  EXPECT_EQ(Partie::Textes(f.ScoreLabel), "0 0 0 0");
   EXPECT_EQ(f.TotalLabel[3].Caption, total);
-  EXPECT_EQ(p.dossier.Lit("Scores"), "0\r\n0\r\n0\r\n0\r\n");
+  EXPECT_EQ(p.dossier.Lit("Scores"), zéros);
 }
 
 TEST(Partie, LeToutFlushDuDébutantLuiEstReconnuEtLExpertLeGarde) {
@@ -224,7 +194,6 @@ TEST(Partie, LeToutFlushDuDébutantLuiEstReconnuEtLExpertLeGarde) {
   for (int k = 0; k <= 12; ++k)
     EXPECT_EQ(p.t.Mains[4][k], p.t.Mains[3][p.t.Rangements[p.t.MeilleurRangement[3]][k]])
         << "the solution replaces the layout";
-  EXPECT_TRUE(std::equal(p.t.CartesMontrées[3], p.t.CartesMontrées[3] + 13, p.t.CartesMontrées[4]));
 
   // Swept in DEBUTANT, shown down in EXPERT: the flag counts, the layout stays.
   Partie q;
@@ -236,18 +205,15 @@ TEST(Partie, LeToutFlushDuDébutantLuiEstReconnuEtLExpertLeGarde) {
   q.t.Joue_Click();
   EXPECT_EQ(q.t.Fenêtre.ExtraLabel[3].Caption, q.t.MégaQuinte[3] ? "MEGA QUINTE" : "TOUT FLUSH");
   EXPECT_EQ(std::vector<uint8_t>(q.t.Mains[4], q.t.Mains[4] + 13), disposition);
-  EXPECT_FALSE(q.t.Fenêtre.VoirOrdi[0].Visible);
 }
 
 TEST(Partie, UnRejoueSansTirageOuAvecUnTirageAbîméVaJusquAuBout) {
-  for (const char *contenu :
-       {static_cast<const char *>(nullptr), "7\r\nxyz\r\n300\r\n-1\r\n53\r\n255\r\n"}) {
+  for (const char *contenu : {static_cast<const char *>(nullptr), "7\r\nxyz\r\n300\r\n-1\r\n53\r\n255\r\n"}) {
     Partie p;
     if (contenu)
       p.dossier.Écrit("Tirage", contenu);
     p.t.Rejoue_MouseUp();
-    EXPECT_FALSE(p.t.Fenêtre.Arrêt.Enabled);
-    EXPECT_TRUE(p.t.Fenêtre.NouveauJeu.Enabled);
+    EXPECT_TRUE(p.t.Fenêtre.NouveauJeu.Enabled && !p.t.Fenêtre.Arrêt.Enabled);
     EXPECT_EQ(p.SommeDesTotaux(), 0);
     EXPECT_TRUE(p.plateforme.erreurs.empty());
   }
@@ -258,17 +224,15 @@ TEST(Partie, LHorlogeDécompteJusquÀZéroEtSArrêteAuPlafond) {
   auto &f = p.t.Fenêtre;
   p.dossier.Écrit("Temps2", "2\r\n");
   p.t.NouveauJeu_MouseUp();
-  EXPECT_EQ(f.TempsLabel.Caption, "2");
-  std::vector<std::string> vus;
+  std::string vus = f.TempsLabel.Caption;
   for (int i = 0; i < 3; ++i) {
     p.t.TempsTimer_Timer();
-    vus.push_back(f.TempsLabel.Caption);
+    vus += f.TempsLabel.Caption;
   }
-  EXPECT_EQ(vus, (std::vector<std::string>{"1", "0", "0"}));
+  EXPECT_EQ(vus, "2100");
   p.t.TempsÉcoulé = 32766;
   p.t.TempsTimer_Timer();
   p.t.TempsTimer_Timer();
-  EXPECT_EQ(p.t.TempsÉcoulé, 32767);
   p.t.Joue_Click();
   EXPECT_EQ(p.dossier.Lit("Temps2"), "32767\r\n");
 }
@@ -291,9 +255,8 @@ TEST(Partie, SurDesDonnesAuHasardChaqueNiveauSePaieÀSommeNulle) {
       p.t.Joue_Click();
       for (int niveau = 0; niveau < 3; ++niveau) {
         int somme = 0;
-        for (int s = 0; s <= 3; ++s)
-          for (int j = 0; j <= 2; ++j)
-            somme += std::stoi(p.t.Fenêtre.LabelPaie[9 * s + 3 * niveau + j].Caption);
+        for (int i = 0; i < 12; ++i)
+          somme += std::stoi(p.t.Fenêtre.LabelPaie[9 * (i / 3) + 3 * niveau + i % 3].Caption);
         EXPECT_EQ(somme, 0);
       }
       EXPECT_EQ(std::accumulate(p.t.Scores, p.t.Scores + 4, 0), 0);
