@@ -536,6 +536,14 @@ first start with the default names and scores.
         <source>aucun dossier</source>
         <translation>no folder</translation>
     </message>
+    <message>
+        <source>Impossible d&apos;enregistrer le fichier « %1 » (%2) : %3. La partie continue sans ce fichier.</source>
+        <translation>The file “%1” (%2) could not be saved: %3. The game goes on without this file.</translation>
+    </message>
+    <message>
+        <source>le dossier des données n&apos;existe plus</source>
+        <translation>the data folder no longer exists</translation>
+    </message>
 </context>
 <context>
     <name>Regles</name>
