@@ -50,10 +50,11 @@ ligne "premier affichage (médiane de 5)" "$(printf '%s\n' "${premiers[@]}" | so
 
 # An idle table for 10 s after 4 s to settle, then 10 s more unmapped.
 repos() { # $1: screen size, $2: label, then options
-  local taille=$1 quoi=$2 pid t0 c0 x0 t1 c1 x1 fenetre
+  local taille=$1 quoi=$2 lanceur pid t0 c0 x0 t1 c1 x1 fenetre
   shift 2
   ecran "$taille"
   lance --quitte-apres 40000 "$@" >/dev/null 2>&1 &
+  lanceur=$!
   sleep 4
   pid=$(pgrep -n -f "$copie/troisniveaux-mesures")
   t0=$(ticks $pid) c0=$(commutations $pid) x0=$(ticks $serveur)
@@ -72,7 +73,7 @@ repos() { # $1: screen size, $2: label, then options
     ligne "processeur, fenêtre retirée de l'écran, $quoi" "$(pourcent $((t1 - t0)) 10) % d'un cœur, $(((c1 - c0) / 10)) réveils/s"
   fi
   kill $pid 2>/dev/null || true
-  wait 2>/dev/null || true
+  wait $lanceur 2>/dev/null || true
 }
 repos 1024x768 "1024 × 768"
 repos 1920x1080 "1920 × 1080" --plein-ecran

@@ -6,6 +6,7 @@
 // design and grows with the window: one factor turns twips into pixels, and
 // the table stands in the middle of the window on black.
 
+#include <QElapsedTimer>
 #include <QHash>
 #include <QTimer>
 #include <QWidget>
@@ -51,12 +52,19 @@ protected:
   void resizeEvent(QResizeEvent *event) override;
   void paintEvent(QPaintEvent *event) override;
   void keyPressEvent(QKeyEvent *event) override;
+  void changeEvent(QEvent *e) override;
+  void showEvent(QShowEvent *e) override;
+  void hideEvent(QHideEvent *e) override;
+  bool eventFilter(QObject *objet, QEvent *e) override;
 
 private:
   void Construit();
   void Relie();
   void SynchroniseMinuteries();
   void MémoriseTaille();
+  // The stars run while the model wants them and the window can be seen.
+  void SuitLesÉtoiles();
+  void AvanceLesÉtoiles();
 
   TroisNiveaux &t;
   PlateformeQt &plateforme;
@@ -66,6 +74,10 @@ private:
   QHash<const Contrôle *, VueContrôle *> vueDe;
   Clavier *clavier = nullptr;
   QTimer étoiles, temps, nonConnecté;
+  // Runs while the stars do; the ticks made since it started.
+  QElapsedTimer horlogeÉtoiles;
+  qint64 ticksFaits = 0;
+  bool filtreDeFenêtre = false;
   bool fermé = false;
   bool mémoriseTaille = false;
   Qt::WindowStates avantPleinÉcran = Qt::WindowNoState;
