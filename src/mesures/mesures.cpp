@@ -10,6 +10,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 #include <memory>
 #include <optional>
 #include <string>
@@ -194,6 +197,11 @@ void MesureLesJeux(QWidget *fenêtre, const QString &seul) {
       QTimer::singleShot(500, fenêtre, [] {
         std::fprintf(stderr, "retour au jeu de TroisNiveaux : mémoire résidente %ld ko\n",
                      MémoireRésidente());
+#ifdef __GLIBC__
+        const struct mallinfo2 tas = mallinfo2();
+        std::fprintf(stderr, "  tas : %zu ko en usage, %zu ko libres gardés, %zu ko en mmap\n",
+                     tas.uordblks / 1024, tas.fordblks / 1024, tas.hblkhd / 1024);
+#endif
         QCoreApplication::exit(0);
       });
       return;

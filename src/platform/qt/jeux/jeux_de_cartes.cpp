@@ -11,11 +11,13 @@
 #include <QPainter>
 #include <QStandardPaths>
 #include <QSvgRenderer>
+#include <QThread>
 #include <QThreadPool>
 #include <algorithm>
 #include <atomic>
 #include <cmath>
 #include <memory>
+#include <thread>
 #ifdef __GLIBC__
 #include <malloc.h>
 #endif
@@ -97,13 +99,14 @@ void TaisLesAvertissementsSvg() {
 
 } // namespace
 
-std::optional<std::vector<QImage>> RendJeu(const QString &fichier, QSize taille, qreal ratio) {
+std::optional<std::vector<QImage>> RendJeu(const QString &fichier, QSize taille, qreal ratio,
+                                           int part, int parts) {
   TaisLesAvertissementsSvg();
   QSvgRenderer rendu(fichier);
   if (!rendu.isValid() || taille.isEmpty())
     return std::nullopt;
   std::vector<QImage> images(55);
-  for (int code = 0; code <= 54; ++code) {
+  for (int code = part; code <= 54; code += std::max(parts, 1)) {
     const QString élément = ÉlémentDeCarte(code);
     if (élément.isEmpty())
       continue;
@@ -165,12 +168,49 @@ struct État {
 QThreadPool &Fil() {
   État &e = état();
   if (!e.fil) {
-    // One thread: a deck is read while the previous one finishes, never two
-    // at once on the two cores the game shares with its search.
+    // One deck at a time, each shared out over the cores: a deck chosen
+    // meanwhile waits rather than halve the cores with the previous one.
+#ifdef __GLIBC__
+    // Fixed thresholds: glibc raises them after the first large block a deck
+    // frees, and from then on keeps in its render threads' heaps what every
+    // later deck freed.
+    mallopt(M_MMAP_THRESHOLD, 256 * 1024);
+    mallopt(M_TRIM_THRESHOLD, 512 * 1024);
+#endif
     e.fil = new QThreadPool(QCoreApplication::instance());
     e.fil->setMaxThreadCount(1);
   }
   return *e.fil;
+}
+
+// A heavy deck takes most of a second on one core: each core reads the file
+// for itself (a renderer is not to be shared between threads) and draws its
+// share of the cards.
+std::optional<std::vector<QImage>> RendSurLesCœurs(const QString &fichier, QSize taille,
+                                                   qreal ratio) {
+  const int parts = std::clamp(QThread::idealThreadCount(), 1, 4);
+  std::vector<std::optional<std::vector<QImage>>> morceaux(parts);
+  {
+    std::vector<std::jthread> fils;
+    for (int k = 1; k < parts; ++k)
+      fils.emplace_back([&, k] { morceaux[k] = RendJeu(fichier, taille, ratio, k, parts); });
+    morceaux[0] = RendJeu(fichier, taille, ratio, 0, parts);
+  }
+  for (const auto &morceau : morceaux)
+    if (!morceau)
+      return std::nullopt;
+  for (int k = 1; k < parts; ++k)
+    for (int code = k; code <= 54; code += parts)
+      (*morceaux[0])[code] = std::move((*morceaux[k])[code]);
+  return std::move(morceaux[0]);
+}
+
+// Freed pictures and parsed decks go back to the system rather than wait in
+// the heap, where a tour of the decks would leave tens of megabytes.
+void RendLaMémoire() {
+#ifdef __GLIBC__
+  malloc_trim(0);
+#endif
 }
 
 qint64 Octets(const std::vector<Rendu> &rendus) {
@@ -198,18 +238,16 @@ void Demande(QSize taille, qreal ratio) {
   Fil().start([fichier, taille, ratio, génération] {
     auto images = std::make_shared<std::optional<std::vector<QImage>>>();
     if (génération == état().génération) // a later choice makes this one moot
-      *images = RendJeu(fichier, taille, ratio);
+      *images = RendSurLesCœurs(fichier, taille, ratio);
     QMetaObject::invokeMethod(
         QCoreApplication::instance(),
         [images, taille, ratio, génération] {
           État &e = état();
-          if (génération != e.génération)
+          if (génération != e.génération) {
+            images->reset();
+            RendLaMémoire();
             return;
-#ifdef __GLIBC__
-          // The parsed deck, tens of megabytes for the largest, is freed by
-          // now: its pages go back to the system rather than wait in the heap.
-          malloc_trim(0);
-#endif
+          }
           e.enCours.reset();
           const bool premier = e.rendus.empty();
           if (!*images) {
@@ -242,6 +280,8 @@ void Demande(QSize taille, qreal ratio) {
           }
           if (e.nouvellesImages)
             e.nouvellesImages();
+          images->reset();
+          RendLaMémoire();
         },
         Qt::QueuedConnection);
   });
@@ -300,6 +340,7 @@ void Choisit(int numéro, std::function<void(bool)> prêt) {
   e.enCours.reset();
   e.suivante.reset();
   e.prêt = std::move(prêt);
+  RendLaMémoire();
   if (numéro == 0) {
     if (e.prêt)
       std::exchange(e.prêt, nullptr)(true);

@@ -30,8 +30,10 @@ std::optional<JeuDeCartes> LitJeu(const QString &dossier);
 
 // The pictures of a deck at one size: a null image where the deck has no
 // element for a code. Nothing when the file cannot be read as SVG or lacks a
-// face or the back.
-std::optional<std::vector<QImage>> RendJeu(const QString &fichier, QSize taille, qreal ratio);
+// face or the back. With `parts` > 1, only the codes equal to `part` modulo
+// `parts`, so that threads can share a deck out, each reading it for itself.
+std::optional<std::vector<QImage>> RendJeu(const QString &fichier, QSize taille, qreal ratio,
+                                           int part = 0, int parts = 1);
 
 namespace jeux {
 
