@@ -19,7 +19,6 @@ trap '[[ -n $serveur ]] && kill "$serveur" 2>/dev/null; rm -rf "$copie"' EXIT
 cp "$dossier/troisniveaux-mesures" "$racine/data/Noms" "$racine/data/Scores" "$copie/"
 cp "$racine"/data/*.htm "$copie/" 2>/dev/null || true
 export XDG_CONFIG_HOME=$copie/config
-hz=$(getconf CLK_TCK)
 
 lance() { "$copie/troisniveaux-mesures" "$@"; }
 
@@ -32,11 +31,12 @@ ecran() {
   for _ in $(seq 100); do [[ -s "$copie/affichage" ]] && break; sleep 0.05; done
   export DISPLAY=:$(head -1 "$copie/affichage")
 }
-ticks() { awk '{t += $14 + $15} END {print t}' /proc/"$1"/task/*/stat 2>/dev/null; }
+# Time on a processor of all the threads of $1, in microseconds.
+ticks() { awk '{t += $1} END {printf "%d", t / 1000}' /proc/"$1"/task/*/schedstat 2>/dev/null; }
 commutations() {
   awk '/ctxt_switches/ {c += $2} END {print c}' /proc/"$1"/task/*/status 2>/dev/null
 }
-pourcent() { awk -v t="$1" -v hz="$hz" -v s="$2" 'BEGIN {printf "%.2f", 100 * t / hz / s}'; }
+pourcent() { awk -v t="$1" -v s="$2" 'BEGIN {printf "%.2f", 100 * t / 1e6 / s}'; }
 
 ligne() { printf '%-58s %s\n' "$1" "$2"; }
 

@@ -17,7 +17,8 @@
 #include <atomic>
 #include <cmath>
 #include <memory>
-#include <thread>
+#include <condition_variable>
+#include <mutex>
 #ifdef __GLIBC__
 #include <malloc.h>
 #endif
@@ -100,19 +101,23 @@ void TaisLesAvertissementsSvg() {
 } // namespace
 
 std::optional<std::vector<QImage>> RendJeu(const QString &fichier, QSize taille, qreal ratio,
-                                           int part, int parts) {
+                                           std::atomic<int> *suivante,
+                                           const std::function<void(int, QImage)> &reçue) {
   TaisLesAvertissementsSvg();
   QSvgRenderer rendu(fichier);
   if (!rendu.isValid() || taille.isEmpty())
     return std::nullopt;
   std::vector<QImage> images(55);
-  for (int code = part; code <= 54; code += std::max(parts, 1)) {
+  int seul = 0;
+  for (int code; (code = suivante ? suivante->fetch_add(1) : seul++) <= 54;) {
     const QString élément = ÉlémentDeCarte(code);
     if (élément.isEmpty())
       continue;
     if (!rendu.elementExists(élément)) {
       if (code <= 51 || code == 54)
         return std::nullopt;
+      if (reçue)
+        reçue(code, QImage());
       continue;
     }
     // Drawn whole in the slot, keeping the deck's proportions: a card a
@@ -126,6 +131,8 @@ std::optional<std::vector<QImage>> RendJeu(const QString &fichier, QSize taille,
       cible.moveLeft((taille.width() - cible.width()) / 2);
     }
     images[code] = Peint(taille, ratio, [&](QPainter &p) { rendu.render(&p, élément, cible); });
+    if (reçue)
+      reçue(code, std::move(images[code]));
   }
   return images;
 }
@@ -184,25 +191,48 @@ QThreadPool &Fil() {
 }
 
 // A heavy deck takes most of a second on one core: each core reads the file
-// for itself (a renderer is not to be shared between threads) and draws its
-// share of the cards.
+// for itself (a renderer is not to be shared between threads), then takes
+// the next card not yet drawn. The deck is ready when every card is, even if
+// a core slowed by other work is still reading: it then finds none left.
 std::optional<std::vector<QImage>> RendSurLesCœurs(const QString &fichier, QSize taille,
                                                    qreal ratio) {
-  const int parts = std::clamp(QThread::idealThreadCount(), 1, 4);
-  std::vector<std::optional<std::vector<QImage>>> morceaux(parts);
-  {
-    std::vector<std::jthread> fils;
-    for (int k = 1; k < parts; ++k)
-      fils.emplace_back([&, k] { morceaux[k] = RendJeu(fichier, taille, ratio, k, parts); });
-    morceaux[0] = RendJeu(fichier, taille, ratio, 0, parts);
-  }
-  for (const auto &morceau : morceaux)
-    if (!morceau)
-      return std::nullopt;
-  for (int k = 1; k < parts; ++k)
-    for (int code = k; code <= 54; code += parts)
-      (*morceaux[0])[code] = std::move((*morceaux[k])[code]);
-  return std::move(morceaux[0]);
+  struct Partage {
+    std::atomic<int> suivante = 0;
+    std::mutex verrou;
+    std::condition_variable fait;
+    std::vector<QImage> images = std::vector<QImage>(55);
+    int reçues = 0, finis = 0;
+    bool échec = false;
+  };
+  const int fils = std::clamp(QThread::idealThreadCount(), 1, 4);
+  auto partage = std::make_shared<Partage>();
+  const auto travaille = [fichier, taille, ratio](std::shared_ptr<Partage> p) {
+    const bool réussi = RendJeu(fichier, taille, ratio, &p->suivante, [&p](int code, QImage image) {
+                          const std::lock_guard garde(p->verrou);
+                          p->images[code] = std::move(image);
+                          ++p->reçues;
+                        }).has_value();
+    const std::lock_guard garde(p->verrou);
+    p->échec |= !réussi;
+    ++p->finis;
+    p->fait.notify_all();
+  };
+  // Helpers of a pool that the application waits for when it ends.
+  static QThreadPool *const aides = [fils] {
+    auto *pool = new QThreadPool(QCoreApplication::instance());
+    pool->setMaxThreadCount(fils);
+    return pool;
+  }();
+  for (int k = 1; k < fils; ++k)
+    aides->start([travaille, partage] { travaille(partage); });
+  travaille(partage);
+  std::unique_lock garde(partage->verrou);
+  partage->fait.wait(garde, [&] {
+    return partage->échec || partage->reçues == 55 || partage->finis == fils;
+  });
+  if (partage->échec || partage->reçues < 55)
+    return std::nullopt;
+  return std::move(partage->images);
 }
 
 // Freed pictures and parsed decks go back to the system rather than wait in
