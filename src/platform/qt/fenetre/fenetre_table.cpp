@@ -282,8 +282,8 @@ void FenêtreTable::PremierAffichage(std::function<void()> rappel) {
 
 namespace {
 // The pace the stars' speeds were made for, and how many of its ticks one
-// picture shows: the stars fall as fast as ever, drawn 16 times a second.
-constexpr qint64 TicksParSeconde = 64, TicksParImage = 4;
+// picture shows: the stars fall as fast as ever, drawn 13 times a second.
+constexpr qint64 TicksParSeconde = 64, TicksParImage = 5;
 } // namespace
 
 void FenêtreTable::SuitLesÉtoiles() {

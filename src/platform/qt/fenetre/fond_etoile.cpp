@@ -114,6 +114,7 @@ void FondÉtoilé::AprèsTick() {
       if (enfant->isVisible() && enfant->testAttribute(Qt::WA_OpaquePaintEvent))
         àRepeindre -= enfant->geometry();
     }
+  // Painted now: an update would cost the event loop one more turn an image.
   if (!àRepeindre.isEmpty())
-    update(àRepeindre);
+    repaint(àRepeindre);
 }
