@@ -9,6 +9,11 @@ target_link_libraries(troisniveaux-fenetre PUBLIC ZLIB::ZLIB)
 add_executable(troisniveaux src/main.cpp)
 target_link_libraries(troisniveaux PRIVATE troisniveaux-fenetre)
 add_dependencies(troisniveaux donnees-par-defaut)
+# The game steered from its command line for the figures and the README's
+# screenshots: built beside it, never installed.
+add_executable(troisniveaux-mesures src/mesures/mesures.cpp)
+target_link_libraries(troisniveaux-mesures PRIVATE troisniveaux-fenetre)
+add_dependencies(troisniveaux-mesures troisniveaux)
 
 # Whether the machine is on line.
 find_package(Qt6 REQUIRED COMPONENTS Network)

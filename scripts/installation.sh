@@ -48,13 +48,15 @@ fi
 echo "== premier lancement, maison vide"
 maison=$travail/maison
 mkdir -p "$maison"
+# The game is played and ended by troisniveaux-mesures, which the build
+# leaves beside it and which finds the installed files as the game does.
+cp "$construction/troisniveaux-mesures" "$(dirname "$jeu")/"
 lance() {
   env -u XDG_DATA_HOME -u XDG_CONFIG_HOME -u XDG_DATA_DIRS HOME="$maison" QT_QPA_PLATFORM=offscreen \
-    TN_DUREE_BALAYAGE=0 timeout 300 "$jeu" "$@"
+    timeout 300 "$(dirname "$jeu")/troisniveaux-mesures" --duree-balayage 0 "$@"
 }
 donnees=$maison/.local/share/troisniveaux
-lance_capture() { TN_CAPTURE="$travail/table.png" lance; }
-lance_capture
+lance --capture "$travail/table.png"
 for f in Noms Scores Tirage Temps2; do
   [[ -s "$donnees/$f" ]] || { echo "$donnees/$f absent après une donne" >&2; exit 1; }
 done
@@ -66,15 +68,21 @@ cmp -s "$donnees/Noms" "$dest/usr/share/troisniveaux/Noms"
 echo "== deuxième lancement : les scores du joueur restent"
 cp "$donnees/Scores" "$travail/scores-avant"
 printf '"Ana"\r\n"Bo"\r\n"Cy"\r\n"Moi"\r\n' >"$donnees/Noms"
-TN_QUITTE_APRES=500 lance
+lance --quitte-apres 500
 cmp "$donnees/Scores" "$travail/scores-avant"
 grep -q Moi "$donnees/Noms"
 rm "$donnees/Scores"
-if TN_QUITTE_APRES=500 lance 2>"$travail/erreur"; then
+if lance --quitte-apres 500 2>"$travail/erreur"; then
   echo "le jeu démarre sans Scores" >&2
   exit 1
 fi
 grep -q "Scores" "$travail/erreur"
 [[ ! -e "$donnees/Scores" ]] || { echo "Scores remplacé en silence" >&2; exit 1; }
+
+echo "== le jeu installé lui-même, arrêté comme par une fin de session"
+cp "$travail/scores-avant" "$donnees/Scores"
+env -u XDG_DATA_HOME -u XDG_CONFIG_HOME -u XDG_DATA_DIRS HOME="$maison" QT_QPA_PLATFORM=offscreen \
+  timeout --preserve-status -s TERM 3 "$jeu" && statut=0 || statut=$?
+[[ $statut -eq 143 ]] || { echo "le jeu installé sort avec le code $statut au lieu de 143" >&2; exit 1; }
 
 echo "installation vérifiée : $dest"

@@ -54,21 +54,9 @@ FenêtreTable::FenêtreTable(TroisNiveaux &table, PlateformeQt &plateforme)
   plateforme.table = &t;
   plateforme.aprèsTour = [this] { Synchronise(); };
 
-  // Stars at about 64 ticks a second, the pace their speeds were made for.
+  étoiles.setSingleShot(true);
   étoiles.setTimerType(Qt::PreciseTimer);
-  étoiles.setInterval(16);
-  connect(&étoiles, &QTimer::timeout, this, [this] {
-    if (fermé)
-      return;
-    fond->AvantTick();
-    // The tick came from the event loop: the turn it asks for first would
-    // only nest another loop in it, and a deal started in there would run
-    // with the stars held still.
-    this->plateforme.sansTour = true;
-    t.EtoilesTimer_Timer();
-    this->plateforme.sansTour = false;
-    fond->AprèsTick();
-  });
+  connect(&étoiles, &QTimer::timeout, this, [this] { AvanceLesÉtoiles(); });
   temps.setInterval(1000);
   connect(&temps, &QTimer::timeout, this, [this] { Événement([this] { t.TempsTimer_Timer(); }); });
   nonConnecté.setInterval(20000);
@@ -232,7 +220,7 @@ void FenêtreTable::SynchroniseMinuteries() {
     else if (!m.Enabled && minuterie.isActive())
       minuterie.stop();
   };
-  suit(étoiles, t.Fenêtre.EtoilesTimer);
+  SuitLesÉtoiles();
   suit(temps, t.Fenêtre.TempsTimer);
   suit(nonConnecté, t.Fenêtre.NonConnectéTimer);
 }
@@ -326,10 +314,87 @@ void FenêtreTable::closeEvent(QCloseEvent *event) {
   if (!fermé && !t.SessionTerminée)
     t.Form_QueryUnload();
   fermé = true;
-  étoiles.stop();
+  SuitLesÉtoiles();
   event->accept();
 }
 
 void FenêtreTable::PremierAffichage(std::function<void()> rappel) {
   fond->premierAffichage = std::move(rappel);
+}
+
+namespace {
+// The pace the stars' speeds were made for, and how many of its ticks one
+// picture shows: the stars fall as fast as ever, drawn 13 times a second.
+constexpr qint64 TicksParSeconde = 64, TicksParImage = 5;
+} // namespace
+
+void FenêtreTable::SuitLesÉtoiles() {
+  const QWindow *w = windowHandle();
+  const bool enMarche = !fermé && t.Fenêtre.EtoilesTimer.Enabled && isVisible() &&
+                        !isMinimized() && w && w->isExposed();
+  if (enMarche == horlogeÉtoiles.isValid())
+    return;
+  if (enMarche) {
+    // The stars go on from where they stopped, not from where they would be.
+    horlogeÉtoiles.start();
+    ticksFaits = 0;
+    étoiles.start(0);
+  } else {
+    horlogeÉtoiles.invalidate();
+    étoiles.stop();
+  }
+}
+
+void FenêtreTable::AvanceLesÉtoiles() {
+  if (!horlogeÉtoiles.isValid())
+    return;
+  // The ticks due by the clock, whenever the wake-up came: a late one (a
+  // busy sweep) moves the stars further rather than slower. After a long
+  // stall they go on instead of racing to catch up.
+  const qint64 dus = horlogeÉtoiles.elapsed() * TicksParSeconde / 1000;
+  const qint64 nombre = std::min<qint64>(dus - ticksFaits, 4 * TicksParImage);
+  ticksFaits = dus;
+  if (nombre > 0) {
+    fond->AvantTick();
+    // The tick came from the event loop: the turn it asks for first would
+    // only nest another loop in it, and a deal started in there would run
+    // with the stars held still.
+    plateforme.sansTour = true;
+    for (qint64 n = 0; n < nombre; ++n)
+      t.EtoilesTimer_Timer();
+    plateforme.sansTour = false;
+    fond->AprèsTick();
+  }
+  // Woken at the next whole picture's worth of ticks.
+  const qint64 prochain = (dus / TicksParImage + 1) * TicksParImage;
+  étoiles.start(static_cast<int>(std::max<qint64>(
+      1, (prochain * 1000 + TicksParSeconde - 1) / TicksParSeconde - horlogeÉtoiles.elapsed())));
+}
+
+// Drawing stops while the toolkit says nothing of the window can be seen
+// (minimised, unmapped, another workspace, fully covered where it is told).
+bool FenêtreTable::eventFilter(QObject *objet, QEvent *e) {
+  if (objet == windowHandle() && e->type() == QEvent::Expose)
+    SuitLesÉtoiles();
+  return QWidget::eventFilter(objet, e);
+}
+
+void FenêtreTable::changeEvent(QEvent *e) {
+  if (e->type() == QEvent::WindowStateChange)
+    SuitLesÉtoiles();
+  QWidget::changeEvent(e);
+}
+
+void FenêtreTable::showEvent(QShowEvent *e) {
+  if (QWindow *w = windowHandle(); w && !filtreDeFenêtre) {
+    w->installEventFilter(this);
+    filtreDeFenêtre = true;
+  }
+  SuitLesÉtoiles();
+  QWidget::showEvent(e);
+}
+
+void FenêtreTable::hideEvent(QHideEvent *e) {
+  SuitLesÉtoiles();
+  QWidget::hideEvent(e);
 }

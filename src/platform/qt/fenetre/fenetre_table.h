@@ -6,6 +6,7 @@
 // design and grows with the window: one factor turns twips into pixels, and
 // the table stands in the middle of the window on black.
 
+#include <QElapsedTimer>
 #include <QHash>
 #include <QTimer>
 #include <QWidget>
@@ -56,6 +57,10 @@ protected:
   void resizeEvent(QResizeEvent *event) override;
   void paintEvent(QPaintEvent *event) override;
   void keyPressEvent(QKeyEvent *event) override;
+  void changeEvent(QEvent *e) override;
+  void showEvent(QShowEvent *e) override;
+  void hideEvent(QHideEvent *e) override;
+  bool eventFilter(QObject *objet, QEvent *e) override;
 
 private:
   void Construit();
@@ -63,6 +68,9 @@ private:
   void SynchroniseMinuteries();
   void MémoriseTaille();
   void TientDansLÉcran(QSize voulue);
+  // The stars run while the model wants them and the window can be seen.
+  void SuitLesÉtoiles();
+  void AvanceLesÉtoiles();
 
   TroisNiveaux &t;
   PlateformeQt &plateforme;
@@ -73,6 +81,10 @@ private:
   Clavier *clavier = nullptr;
   std::unique_ptr<SuiviLecteur> lecteur;
   QTimer étoiles, temps, nonConnecté;
+  // Runs while the stars do; the ticks made since it started.
+  QElapsedTimer horlogeÉtoiles;
+  qint64 ticksFaits = 0;
+  bool filtreDeFenêtre = false;
   bool fermé = false;
   bool mémoriseTaille = false;
   Qt::WindowStates avantPleinÉcran = Qt::WindowNoState;

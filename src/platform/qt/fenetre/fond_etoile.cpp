@@ -13,7 +13,7 @@ namespace {
 
 // A star is a dot of a pixel or two at the designed size: drawn once per
 // radius, scale and ratio, then copied, which costs far less than a curve
-// at each of 64 ticks a second.
+// at every image.
 const QImage &Étoile(int rayonTwips, double échelle, qreal ratio) {
   static std::map<std::tuple<int, double, qreal>, QImage> cache;
   const auto clé = std::make_tuple(rayonTwips, échelle, ratio);
@@ -35,6 +35,14 @@ const QImage &Étoile(int rayonTwips, double échelle, qreal ratio) {
     it = cache.emplace(clé, image).first;
   }
   return it->second;
+}
+
+// Halves joined pairwise: a hundred rectangles one by one would cost a
+// hundred ever longer merges.
+QRegion Réunion(const QRect *r, int n) {
+  if (n <= 1)
+    return n == 1 ? QRegion(r[0]) : QRegion();
+  return Réunion(r, n / 2) | Réunion(r + n / 2, n - n / 2);
 }
 
 } // namespace
@@ -74,40 +82,39 @@ void FondÉtoilé::AvantTick() {
 }
 
 void FondÉtoilé::AprèsTick() {
-  // A star that only fell is one strip from its old place to its new one,
-  // so the server gets some fifty small rectangles a tick. One that lies
-  // wholly under a panel is left out; the panels being opaque, Qt itself
-  // keeps the rest of the paint off them.
-  QRect couvert[16];
+  // Each star's old and new place: the server gets some fifty to a hundred
+  // small rectangles an image.
+  QRect carrés[100];
   int nombre = 0;
-  for (const QObject *objet : children())
-    if (objet->isWidgetType() && nombre < 16) {
-      const auto *enfant = static_cast<const QWidget *>(objet);
-      if (enfant->isVisible())
-        couvert[nombre++] = enfant->geometry();
-    }
-  const auto caché = [&](const QRect &r) {
-    for (int n = 0; n < nombre; ++n)
-      if (couvert[n].contains(r))
-        return true;
-    return false;
-  };
-  QRegion àRepeindre;
   const QRect tout = rect();
   for (int i = 1; i <= 50; ++i) {
     const int marge = 2 + static_cast<int>(std::ceil(t.EtoileRayon[i] * échelle / 15.0));
     const auto carré = [marge](QPointF centre) {
       return QRect(centre.toPoint() - QPoint(marge, marge), QSize(2 * marge + 1, 2 * marge + 1));
     };
-    const QRect avant = carré(Centre(anciensX[i], anciensY[i]));
-    const QRect après = carré(Centre(t.EtoileX[i], t.EtoileY[i]));
-    // A star back at the top is two squares, far apart.
-    const bool tombée = après.top() >= avant.top();
-    const QRect morceaux[2] = {tombée ? (avant | après) : avant, tombée ? QRect() : après};
-    for (const QRect &r : morceaux)
-      if (r.intersects(tout) && !caché(r))
-        àRepeindre += r & tout;
+    const QRect avant = carré(Centre(anciensX[i], anciensY[i])) & tout;
+    const QRect après = carré(Centre(t.EtoileX[i], t.EtoileY[i])) & tout;
+    if (avant == après)
+      continue; // a slow star that has not moved a pixel
+    // A star leaves no trail: a fast one is two squares far apart, only a
+    // slow one the strip round both.
+    if (avant.intersects(après.adjusted(0, -1, 0, 1)))
+      carrés[nombre++] = avant | après;
+    else
+      for (const QRect &r : {avant, après})
+        if (!r.isEmpty())
+          carrés[nombre++] = r;
   }
+  QRegion àRepeindre = Réunion(carrés, nombre);
+  // Nothing under an opaque panel: Qt would paint the panel again, text and
+  // all, for a star that cannot be seen there.
+  for (const QObject *objet : children())
+    if (objet->isWidgetType()) {
+      const auto *enfant = static_cast<const QWidget *>(objet);
+      if (enfant->isVisible() && enfant->testAttribute(Qt::WA_OpaquePaintEvent))
+        àRepeindre -= enfant->geometry();
+    }
+  // Painted now: an update would cost the event loop one more turn an image.
   if (!àRepeindre.isEmpty())
-    update(àRepeindre);
+    repaint(àRepeindre);
 }

@@ -1,16 +1,10 @@
 #include "platform/qt/jeux/choix_du_jeu.h"
 
-#include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QEvent>
-#include <QFile>
 #include <QLabel>
 #include <QPointer>
 #include <QTimer>
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
-#include <memory>
 
 #include "platform/qt/jeux/jeux_de_cartes.h"
 
@@ -64,72 +58,6 @@ private:
   }
 };
 
-// Resident memory of the process in kB, from /proc.
-long MémoireRésidente() {
-  QFile statut("/proc/self/status");
-  if (!statut.open(QIODevice::ReadOnly))
-    return -1;
-  for (const QByteArray &ligne : statut.readAll().split('\n'))
-    if (ligne.startsWith("VmRSS:"))
-      return ligne.mid(6).trimmed().split(' ').front().toLong();
-  return -1;
-}
-
-// TN_MESURE_JEUX=1: every installed deck chosen in turn, with the time until
-// its pictures are in, the longest wait of the event loop meanwhile and the
-// resident memory; then the game's own deck again, and the program ends.
-void MesureLesJeux(QWidget *fenêtre) {
-  struct Mesure {
-    QTimer sonde;
-    QElapsedTimer depuisSonde, chrono;
-    qint64 plusLongRetard = 0;
-    int numéro = 0;
-  };
-  auto m = std::make_shared<Mesure>();
-  m->sonde.setTimerType(Qt::PreciseTimer);
-  QObject::connect(&m->sonde, &QTimer::timeout, [m = m.get()] {
-    if (m->depuisSonde.isValid())
-      m->plusLongRetard = std::max(m->plusLongRetard, m->depuisSonde.elapsed() - 5);
-    m->depuisSonde.restart();
-  });
-  m->sonde.start(5);
-  // TN_MESURE_JEUX=svg-oxygen measures that deck alone.
-  const QString seul = QString::fromLocal8Bit(std::getenv("TN_MESURE_JEUX"));
-  auto suivant = std::make_shared<std::function<void()>>();
-  *suivant = [m, suivant, fenêtre, seul] {
-    const int nombre = static_cast<int>(jeux::Installés().size());
-    if (m->numéro == 0)
-      std::fprintf(stderr, "jeu de TroisNiveaux : mémoire résidente %ld ko\n", MémoireRésidente());
-    ++m->numéro;
-    while (m->numéro <= nombre && seul != "1" && jeux::Installés()[m->numéro - 1].id != seul)
-      ++m->numéro;
-    if (m->numéro > nombre) {
-      jeux::Choisit(0);
-      QTimer::singleShot(500, fenêtre, [] {
-        std::fprintf(stderr, "retour au jeu de TroisNiveaux : mémoire résidente %ld ko\n",
-                     MémoireRésidente());
-        QCoreApplication::exit(0);
-      });
-      return;
-    }
-    m->plusLongRetard = 0;
-    m->chrono.start();
-    jeux::Choisit(m->numéro, [m, suivant, fenêtre](bool réussi) {
-      const qint64 durée = m->chrono.elapsed();
-      // The table repaints with the new cards before the figure is taken.
-      fenêtre->repaint();
-      std::fprintf(stderr,
-                   "%-26s %s en %5lld ms, attente maximale des événements %3lld ms, "
-                   "mémoire résidente %ld ko\n",
-                   jeux::NomDuChoix(m->numéro).toUtf8().constData(), réussi ? "prêt " : "ÉCHEC",
-                   static_cast<long long>(durée), static_cast<long long>(m->plusLongRetard),
-                   MémoireRésidente());
-      QTimer::singleShot(200, fenêtre, *suivant);
-    });
-  };
-  QTimer::singleShot(4000, fenêtre, *suivant);
-}
-
 // Where F8 stands in the list: a deck that fails to load is passed over,
 // not started over from the first.
 int curseur = 0;
@@ -170,12 +98,15 @@ void InstalleChoixDuJeu(QWidget *fenêtre) {
         w->update();
   });
   curseur = jeux::Retrouve();
-  // TN_JEU=svg-oxygen plays that deck this once, for screenshots and scripts.
-  if (const char *id = std::getenv("TN_JEU"))
-    for (std::size_t n = 0; n < jeux::Installés().size(); ++n)
-      if (jeux::Installés()[n].id == QString::fromLocal8Bit(id))
-        curseur = static_cast<int>(n) + 1;
   jeux::Choisit(curseur);
-  if (std::getenv("TN_MESURE_JEUX"))
-    MesureLesJeux(fenêtre);
+}
+
+bool JoueCeJeu(const QString &id) {
+  for (std::size_t n = 0; n < jeux::Installés().size(); ++n)
+    if (jeux::Installés()[n].id == id) {
+      curseur = static_cast<int>(n) + 1;
+      jeux::Choisit(curseur);
+      return true;
+    }
+  return false;
 }

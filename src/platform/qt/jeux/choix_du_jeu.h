@@ -3,6 +3,7 @@
 // table, the choice kept for the next session.
 
 class QLabel;
+class QString;
 class QWidget;
 
 // Sets the remembered deck going; F8 (bound by the window) calls JeuSuivant.
@@ -11,3 +12,6 @@ void InstalleChoixDuJeu(QWidget *fenêtre);
 // name, for tests.
 void JeuSuivant(QWidget *fenêtre);
 QLabel *ÉtiquetteDuJeu(QWidget *fenêtre);
+// Plays the installed deck of that folder name this once, not remembered;
+// false when no such deck is installed.
+bool JoueCeJeu(const QString &id);

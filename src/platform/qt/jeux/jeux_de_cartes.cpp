@@ -13,6 +13,8 @@
 #include <QPainter>
 #include <QStandardPaths>
 #include <QSvgRenderer>
+#include <QThread>
+#include <QDeadlineTimer>
 #include <QThreadPool>
 #include <algorithm>
 #include <atomic>
@@ -22,6 +24,8 @@
 #include <memory>
 #include <sys/stat.h>
 #include <zlib.h>
+#include <condition_variable>
+#include <mutex>
 #ifdef __GLIBC__
 #include <malloc.h>
 #endif
@@ -183,14 +187,17 @@ std::optional<QByteArray> ContenuDuJeu(const QString &fichier) {
   return svg;
 }
 
-std::optional<std::vector<QImage>> RendJeu(const QString &fichier, QSize taille, qreal ratio) {
+std::optional<std::vector<QImage>> RendJeu(const QString &fichier, QSize taille, qreal ratio,
+                                           std::atomic<int> *suivante,
+                                           const std::function<void(int, QImage)> &reçue) {
   TaisLesAvertissementsSvg();
   const auto contenu = ContenuDuJeu(fichier);
   QSvgRenderer rendu;
   if (!contenu || !rendu.load(*contenu) || !rendu.isValid() || taille.isEmpty())
     return std::nullopt;
   std::vector<QImage> images(55);
-  for (int code = 0; code <= 54; ++code) {
+  int seul = 0;
+  for (int code; (code = suivante ? suivante->fetch_add(1) : seul++) <= 54;) {
     if (abandon)
       return std::nullopt;
     const QString élément = ÉlémentDeCarte(code);
@@ -199,6 +206,8 @@ std::optional<std::vector<QImage>> RendJeu(const QString &fichier, QSize taille,
     if (!rendu.elementExists(élément)) {
       if (code <= 51 || code == 54)
         return std::nullopt;
+      if (reçue)
+        reçue(code, QImage());
       continue;
     }
     // Drawn whole in the slot, keeping the deck's proportions: a card a
@@ -212,6 +221,8 @@ std::optional<std::vector<QImage>> RendJeu(const QString &fichier, QSize taille,
       cible.moveLeft((taille.width() - cible.width()) / 2);
     }
     images[code] = Peint(taille, ratio, [&](QPainter &p) { rendu.render(&p, élément, cible); });
+    if (reçue)
+      reçue(code, std::move(images[code]));
   }
   return images;
 }
@@ -254,12 +265,77 @@ struct État {
 QThreadPool &Fil() {
   État &e = état();
   if (!e.fil) {
-    // One thread: a deck is read while the previous one finishes, never two
-    // at once on the two cores the game shares with its search.
+    // One deck at a time, each shared out over the cores: a deck chosen
+    // meanwhile waits rather than halve the cores with the previous one.
+#ifdef __GLIBC__
+    // Fixed thresholds: glibc raises them after the first large block a deck
+    // frees, and from then on keeps in its render threads' heaps what every
+    // later deck freed.
+    mallopt(M_MMAP_THRESHOLD, 256 * 1024);
+    mallopt(M_TRIM_THRESHOLD, 512 * 1024);
+#endif
     e.fil = new QThreadPool(QCoreApplication::instance());
     e.fil->setMaxThreadCount(1);
   }
   return *e.fil;
+}
+
+// The other cores' helpers, in a pool of their own that the end of the
+// session can wait for too.
+QThreadPool &Aides() {
+  static QThreadPool *const aides = [] {
+    auto *pool = new QThreadPool(QCoreApplication::instance());
+    pool->setMaxThreadCount(std::clamp(QThread::idealThreadCount(), 1, 4));
+    return pool;
+  }();
+  return *aides;
+}
+
+// A heavy deck takes most of a second on one core: each core reads the file
+// for itself (a renderer is not to be shared between threads), then takes
+// the next card not yet drawn. The deck is ready when every card is, even if
+// a core slowed by other work is still reading: it then finds none left.
+std::optional<std::vector<QImage>> RendSurLesCœurs(const QString &fichier, QSize taille,
+                                                   qreal ratio) {
+  struct Partage {
+    std::atomic<int> suivante = 0;
+    std::mutex verrou;
+    std::condition_variable fait;
+    std::vector<QImage> images = std::vector<QImage>(55);
+    int reçues = 0, finis = 0;
+    bool échec = false;
+  };
+  const int fils = std::clamp(QThread::idealThreadCount(), 1, 4);
+  auto partage = std::make_shared<Partage>();
+  const auto travaille = [fichier, taille, ratio](std::shared_ptr<Partage> p) {
+    const bool réussi = RendJeu(fichier, taille, ratio, &p->suivante, [&p](int code, QImage image) {
+                          const std::lock_guard garde(p->verrou);
+                          p->images[code] = std::move(image);
+                          ++p->reçues;
+                        }).has_value();
+    const std::lock_guard garde(p->verrou);
+    p->échec |= !réussi;
+    ++p->finis;
+    p->fait.notify_all();
+  };
+  for (int k = 1; k < fils; ++k)
+    Aides().start([travaille, partage] { travaille(partage); });
+  travaille(partage);
+  std::unique_lock garde(partage->verrou);
+  partage->fait.wait(garde, [&] {
+    return partage->échec || partage->reçues == 55 || partage->finis == fils;
+  });
+  if (partage->échec || partage->reçues < 55)
+    return std::nullopt;
+  return std::move(partage->images);
+}
+
+// Freed pictures and parsed decks go back to the system rather than wait in
+// the heap, where a tour of the decks would leave tens of megabytes.
+void RendLaMémoire() {
+#ifdef __GLIBC__
+  malloc_trim(0);
+#endif
 }
 
 qint64 Octets(const std::vector<Rendu> &rendus) {
@@ -287,18 +363,16 @@ void Demande(QSize taille, qreal ratio) {
   Fil().start([fichier, taille, ratio, génération] {
     auto images = std::make_shared<std::optional<std::vector<QImage>>>();
     if (génération == état().génération) // a later choice makes this one moot
-      *images = RendJeu(fichier, taille, ratio);
+      *images = RendSurLesCœurs(fichier, taille, ratio);
     QMetaObject::invokeMethod(
         QCoreApplication::instance(),
         [images, taille, ratio, génération] {
           État &e = état();
-          if (génération != e.génération)
+          if (génération != e.génération) {
+            images->reset();
+            RendLaMémoire();
             return;
-#ifdef __GLIBC__
-          // The parsed deck, tens of megabytes for the largest, is freed by
-          // now: its pages go back to the system rather than wait in the heap.
-          malloc_trim(0);
-#endif
+          }
           e.enCours.reset();
           const bool premier = e.rendus.empty();
           if (!*images) {
@@ -331,6 +405,8 @@ void Demande(QSize taille, qreal ratio) {
           }
           if (e.nouvellesImages)
             e.nouvellesImages();
+          images->reset();
+          RendLaMémoire();
         },
         Qt::QueuedConnection);
   });
@@ -396,6 +472,7 @@ void Choisit(int numéro, std::function<void(bool)> prêt) {
   e.enCours.reset();
   e.suivante.reset();
   e.prêt = std::move(prêt);
+  RendLaMémoire();
   if (numéro == 0) {
     if (e.prêt)
       std::exchange(e.prêt, nullptr)(true);
@@ -460,7 +537,10 @@ void AttendsLeRendu() {
 
 int FinDuRendu(int code) {
   abandon = true;
-  if (État &e = état(); e.fil && !e.fil->waitForDone(500)) {
+  QDeadlineTimer limite(500);
+  État &e = état();
+  if ((e.fil && !e.fil->waitForDone(int(limite.remainingTime()))) ||
+      !Aides().waitForDone(int(limite.remainingTime()))) {
     std::fflush(nullptr);
     std::_Exit(code);
   }

@@ -11,6 +11,7 @@
 #include <QSize>
 #include <QString>
 #include <QStringList>
+#include <atomic>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -43,8 +44,12 @@ std::optional<QByteArray> ContenuDuJeu(const QString &fichier);
 
 // The pictures of a deck at one size: a null image where the deck has no
 // element for a code. Nothing when the file cannot be read as SVG or lacks a
-// face or the back.
-std::optional<std::vector<QImage>> RendJeu(const QString &fichier, QSize taille, qreal ratio);
+// face or the back. With `suivante`, only the codes it hands out, one at a
+// time, each picture given to `reçue` as soon as drawn: threads share a deck
+// out that way, each reading it for itself.
+std::optional<std::vector<QImage>>
+RendJeu(const QString &fichier, QSize taille, qreal ratio, std::atomic<int> *suivante = nullptr,
+        const std::function<void(int code, QImage image)> &reçue = {});
 
 namespace jeux {
 

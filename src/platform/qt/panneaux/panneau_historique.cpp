@@ -349,16 +349,5 @@ void PanneauHistorique::Dessine() {
 }
 
 PanneauHistorique *InstalleHistorique(QWidget *fenêtre, TroisNiveaux &t) {
-  auto *panneau = new PanneauHistorique(t, fenêtre);
-  // TN_CAPTURE_HISTORIQUE=file.png: the window with the panel open, saved
-  // once the table is up, then the program ends. The README's picture.
-  if (const char *fichier = std::getenv("TN_CAPTURE_HISTORIQUE"))
-    QTimer::singleShot(2000, panneau, [fenêtre, panneau, nom = QString::fromLocal8Bit(fichier)] {
-      panneau->Bascule();
-      const bool réussi = fenêtre->grab().save(nom);
-      std::fprintf(stderr, "%s %s\n",
-                   réussi ? "Capture :" : "Capture impossible :", nom.toLocal8Bit().constData());
-      QCoreApplication::exit(réussi ? 0 : 1);
-    });
-  return panneau;
+  return new PanneauHistorique(t, fenêtre);
 }
