@@ -1,5 +1,6 @@
 #include "platform/qt/jeux/choix_du_jeu.h"
 
+#include <QCoreApplication>
 #include <QEvent>
 #include <QLabel>
 #include <QPointer>
