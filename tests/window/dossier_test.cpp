@@ -258,21 +258,3 @@ TEST(FichiersHostiles, UnRenommageInterrompuDesRéglagesNeLaisseRien) {
   EXPECT_EQ(RéglagesDuJoueur()->value("cartes/jeu").toString(), "svg-avant");
   EXPECT_EQ(dossier.entryList(QDir::Files), QStringList{QFileInfo(FichierDesRéglages()).fileName()});
 }
-
-// A saved size cut short, or of a window too small to play in, gives the
-// size the table is drawn at.
-TEST(FichiersHostiles, UneGéométrieAbîméeOuMinusculeDonneLaTailleDeLaTable) {
-  RéglagesÀPart réglages;
-  Table table;
-  // With nothing saved: the table's own size, fitted to the screen.
-  table.fenêtre.RetrouveTaille();
-  const QSize dessin = table.fenêtre.size();
-  table.fenêtre.resize(table.fenêtre.minimumSize());
-  for (const QByteArray &géométrie :
-       {table.fenêtre.saveGeometry(), table.fenêtre.saveGeometry().left(10)}) {
-    RéglagesDuJoueur()->setValue("fenetre/geometrie", géométrie);
-    table.fenêtre.resize(table.fenêtre.minimumSize());
-    table.fenêtre.RetrouveTaille();
-    EXPECT_EQ(table.fenêtre.size(), dessin);
-  }
-}

@@ -64,20 +64,3 @@ TEST(Presse, LaRechercheFinitTôtAvecLeMêmeRésultat) {
     EXPECT_EQ(issue.paie, attendue.paie);
   }
 }
-
-// Outside a search the bar and Entrée hurry nothing: the next search keeps
-// its pace, which a STOP then cuts short as ever.
-TEST(Presse, HorsRechercheRienNEstPressé) {
-  Table table;
-  auto &f = table.t.Fenêtre;
-  table.Clic(f.TempsFondSS);
-  table.Touche(Qt::Key_Return);
-  EXPECT_FALSE(table.plateforme.pressé);
-  table.plateforme.duréeParSiège = 8;
-  QTimer::singleShot(600, [&] {
-    EXPECT_TRUE(table.t.BalayageEnCours) << "still paced after half a second";
-    table.Touche(Qt::Key_Escape);
-  });
-  table.Clic(f.NouveauJeu);
-  EXPECT_FALSE(f.Joue.Visible);
-}
