@@ -35,16 +35,13 @@ QStringList NomsDesEnfants(QAccessibleInterface *parent) {
 
 } // namespace
 
-TEST(Accessibilité, LesCartesSeNommentEnFrançais) {
+// A whole deal as a reader follows it: cards named in French, the press
+// returns before the search runs, GO takes the focus, then the result's
+// sentence does; every number says whose it is.
+TEST(Accessibilité, UneDonneSeSuitÀLOreille) {
   EXPECT_EQ(QStringList({NomDeCarte(0), NomDeCarte(24), NomDeCarte(34), NomDeCarte(51)}),
             QStringList({"deux de trèfle", "roi de carreau", "dix de cœur", "as de pique"}));
   EXPECT_EQ(NomDeCarte(54), "");
-}
-
-// A whole deal as a reader follows it: the press returns before the search
-// runs, GO takes the focus, then the result's sentence does; every number
-// says whose it is.
-TEST(Accessibilité, UneDonneSeSuitÀLOreille) {
   Table table;
   auto &f = table.t.Fenêtre;
   ASSERT_EQ(Interface(table, f.NouveauJeu)->role(), QAccessible::Button);
