@@ -131,28 +131,11 @@ TEST(Échelle, UnClicTombeLàOùLeContrôleSeVoit) {
 }
 
 // At twice the size a card is the picture drawn at twice the size, not the
-// small one stretched; pictures that look alike (6 and 9, ♦ and ♥) differ.
-TEST(Échelle, LesCartesSontDessinéesÀLaTailleFinale) {
+// small one stretched, and the stars fall at grown places, grown themselves;
+// pictures that look alike (6 and 9, ♦ and ♥) differ.
+TEST(Échelle, LesCartesEtLesÉtoilesSontDessinéesÀLaTailleFinale) {
   Table table;
   auto &f = table.t.Fenêtre;
-  table.Redimensionne({2048, 1536});
-  table.Clic(f.NouveauJeu);
-  QWidget *vue = table.Vue(f.CartesJeu[39]);
-  ASSERT_EQ(vue->size(), QSize(180, 270));
-  const QRect dedans(16, 16, 148, 238);
-  const QImage montré = vue->grab().toImage().convertToFormat(QImage::Format_RGB32);
-  const qreal ratio = montré.devicePixelRatio();
-  const QImage attendu =
-      ImageBrute(table.t.Mains[4][0], QSize(180, 270), ratio).convertToFormat(QImage::Format_RGB32);
-  const QRect zone(dedans.topLeft() * ratio, dedans.size() * ratio);
-  EXPECT_TRUE(montré.copy(zone) == attendu.copy(zone));
-  EXPECT_NE(ImageBrute(4, QSize(90, 135), 1), ImageBrute(7, QSize(90, 135), 1)) << "6 and 9";
-  EXPECT_NE(ImageBrute(13, QSize(90, 135), 1), ImageBrute(26, QSize(90, 135), 1)) << "♦ and ♥";
-}
-
-// The stars fall on the grown table at grown places, and grown themselves.
-TEST(Échelle, LesÉtoilesSontÀLÉchelle) {
-  Table table;
   table.Redimensionne({2048, 1536});
   QWidget *fond = table.fenêtre.Fond();
   const QImage image = fond->grab().toImage();
@@ -167,6 +150,17 @@ TEST(Échelle, LesÉtoilesSontÀLÉchelle) {
     EXPECT_GT(image.pixelColor(centre * ratio).lightness(), 128) << "star " << i;
   }
   EXPECT_GT(vues, 0);
+
+  table.Clic(f.NouveauJeu);
+  QWidget *vue = table.Vue(f.CartesJeu[39]);
+  ASSERT_EQ(vue->size(), QSize(180, 270));
+  const QRect dedans(16 * ratio, 16 * ratio, 148 * ratio, 238 * ratio);
+  const QImage montré = vue->grab().toImage().convertToFormat(QImage::Format_RGB32);
+  const QImage attendu =
+      ImageBrute(table.t.Mains[4][0], QSize(180, 270), ratio).convertToFormat(QImage::Format_RGB32);
+  EXPECT_TRUE(montré.copy(dedans) == attendu.copy(dedans));
+  EXPECT_NE(ImageBrute(4, QSize(90, 135), 1), ImageBrute(7, QSize(90, 135), 1)) << "6 and 9";
+  EXPECT_NE(ImageBrute(13, QSize(90, 135), 1), ImageBrute(26, QSize(90, 135), 1)) << "♦ and ♥";
 }
 
 // The player's size comes back, fitted to the screen's free area when it no
