@@ -107,18 +107,11 @@ private:
   void AjouteMode(RROutput sortie, unsigned largeur, unsigned hauteur, unsigned totalH,
                   unsigned totalV, unsigned long horloge) {
     std::string texte = std::to_string(largeur) + "x" + std::to_string(hauteur);
-    XRRModeInfo mode{};
-    mode.width = largeur;
-    mode.height = hauteur;
-    mode.hSyncStart = largeur + 24;
-    mode.hSyncEnd = largeur + 160;
-    mode.hTotal = totalH;
-    mode.vSyncStart = hauteur + 3;
-    mode.vSyncEnd = hauteur + 9;
-    mode.vTotal = totalV;
-    mode.dotClock = horloge;
-    mode.name = texte.data();
-    mode.nameLength = static_cast<unsigned>(texte.size());
+    XRRModeInfo mode{.id = 0, .width = largeur, .height = hauteur, .dotClock = horloge,
+                     .hSyncStart = largeur + 24, .hSyncEnd = largeur + 160, .hTotal = totalH,
+                     .hSkew = 0, .vSyncStart = hauteur + 3, .vSyncEnd = hauteur + 9,
+                     .vTotal = totalV, .name = texte.data(),
+                     .nameLength = static_cast<unsigned>(texte.size()), .modeFlags = 0};
     XRRAddOutputMode(affichage, sortie,
                      XRRCreateMode(affichage, DefaultRootWindow(affichage), &mode));
     XSync(affichage, False);
