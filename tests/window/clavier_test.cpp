@@ -123,15 +123,24 @@ TEST(Clavier, EntréeDansLePanneauDesNomsEnregistreSansJouer) {
   auto *saisie = table.Vue(f.NomsJoueursText[3])->findChild<QLineEdit *>();
   QTest::mouseClick(saisie, Qt::LeftButton);
   saisie->selectAll();
-  QTest::keyClicks(saisie, "Zoe");
+  // A quote, a letter the file cannot carry and a pasted line break would
+  // break the file's line: the box refuses them.
+  QTest::keyClicks(saisie, "Zo");
+  for (const QString lettre : {"é", "\"", "\u0416"})
+    QTest::sendKeyEvent(QTest::KeyAction::Click, saisie, Qt::Key_unknown, lettre, Qt::NoModifier);
+  saisie->insert("\r\n");
+  saisie->insert("a\tb");
   for (const Qt::Key touche : {Qt::Key_F2, Qt::Key_F6, Qt::Key_F1, Qt::Key_Space})
     QTest::keyClick(saisie, touche);
+  EXPECT_EQ(f.NomsJoueursText[3].Text, "Zoé ");
   EXPECT_TRUE(f.NomsJoueursSS.Visible);
   EXPECT_FALSE(f.RèglesText.Visible) << "F1 waits for the panel";
+  table.Vue(f.NomsJoueursText[1])->findChild<QLineEdit *>()->clear();
   QTest::keyClick(saisie, Qt::Key_Return);
   EXPECT_FALSE(f.NomsJoueursSS.Visible);
-  EXPECT_EQ(f.JoueursLabel[3].Caption, "Zoe ");
-  EXPECT_NE(table.dossier.Lit("Noms").find("\"Zoe \""), std::string::npos);
+  EXPECT_EQ(f.JoueursLabel[3].Caption, "Zoé ");
+  EXPECT_EQ(f.JoueursLabel[1].Caption, "GigaOctets") << "an empty box keeps the name";
+  EXPECT_NE(table.dossier.Lit("Noms").find("\"Zo\xE9 \"\r\n"), std::string::npos);
   EXPECT_TRUE(f.Joue.Visible) << "GO was not pressed";
   EXPECT_EQ(table.dossier.Lit("Scores"), scores);
 

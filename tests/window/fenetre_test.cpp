@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QFile>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSettings>
@@ -127,33 +126,6 @@ TEST(Fenêtre, LeLivreDesRèglesSeFeuillette) {
   EXPECT_EQ(f.TextCombien.Caption, " 3/14");
   QTest::keyClick(&table.fenêtre, Qt::Key_F1);
   EXPECT_FALSE(table.Vue(f.RèglesText)->isVisible()) << "F1 closes the book with its OK";
-}
-
-TEST(Fenêtre, LesNomsRefusentLesGuillemetsEtCeQueLeFichierNePeutPorter) {
-  Table table;
-  auto &f = table.t.Fenêtre;
-  table.Clic(f.NomsJoueurs);
-  auto *saisie = table.Vue(f.NomsJoueursText[0])->findChild<QLineEdit *>();
-  ASSERT_NE(saisie, nullptr);
-  saisie->selectAll();
-  QTest::keyClick(saisie, Qt::Key_Backspace);
-  QTest::keyClicks(saisie, "Zo");
-  QTest::sendKeyEvent(QTest::KeyAction::Click, saisie, Qt::Key_unknown, QString("é"),
-                      Qt::NoModifier);
-  QTest::keyClicks(saisie, "\"");
-  QTest::sendKeyEvent(QTest::KeyAction::Click, saisie, Qt::Key_unknown, QString("\u0416"),
-                      Qt::NoModifier);
-  saisie->insert("\r\n"); // a pasted line break would split the file's line
-  saisie->insert("a\tb");
-  EXPECT_EQ(saisie->text(), "Zoé");
-  EXPECT_EQ(f.NomsJoueursText[0].Text, "Zoé");
-  auto *deuxième = table.Vue(f.NomsJoueursText[1])->findChild<QLineEdit *>();
-  deuxième->clear();
-  table.Clic(f.EnregistreNoms);
-  EXPECT_EQ(f.JoueursLabel[0].Caption, "Zoé");
-  EXPECT_EQ(f.JoueursLabel[1].Caption, "GigaOctets");
-  EXPECT_EQ(table.dossier.Lit("Noms").substr(0, 6), "\"Zo\xE9\"\r");
-  EXPECT_FALSE(table.Vue(f.NomsJoueursSS)->isVisible());
 }
 
 // Every text of the English file is translated, and keeps the place-holders
