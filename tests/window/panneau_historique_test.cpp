@@ -69,35 +69,16 @@ TEST(PanneauHistorique, SesChiffresSontCeuxDuFichier) {
   EXPECT_FALSE(panneau->isVisible());
 }
 
-TEST(PanneauHistorique, SansFichierOuÀToutesLesTaillesIlSeMontre) {
-  Table table;
-  PanneauHistorique *panneau = Panneau(table);
-  panneau->Bascule();
-  EXPECT_EQ(panneau->Figures().donnes, 0);
-  EXPECT_EQ(panneau->Tableau()[1][2], "—");
-  EXPECT_FALSE(panneau->grab().isNull());
-  // In a window of another shape the panel keeps the middle, inside it.
-  table.fenêtre.setMinimumSize(0, 0);
-  table.fenêtre.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-  for (const QSize taille : {QSize(1600, 900), QSize(640, 600)}) {
-    table.fenêtre.resize(taille);
-    QCoreApplication::processEvents();
-    const QRect r = panneau->geometry();
-    EXPECT_TRUE(QRect(QPoint(0, 0), taille).contains(r)) << taille.width();
-    EXPECT_NEAR(r.center().x(), taille.width() / 2, 2);
-    EXPECT_NEAR(r.center().y(), taille.height() / 2, 2);
-    EXPECT_NEAR(double(r.width()) / r.height(), 4.0 / 3, 0.02);
-    EXPECT_GT(r.width(), taille.width() * 0.6);
-    EXPECT_LT(panneau->BoutonFermer()->geometry().bottom(), r.height());
-  }
-}
-
-TEST(PanneauHistorique, SesTouchesEtRienDeLaTableDerrièreLui) {
+// Without a file it shows dashes; no key of the table acts behind it; in a
+// window of another shape it keeps the middle.
+TEST(PanneauHistorique, SansFichierSesTouchesEtRienDeLaTableDerrièreLui) {
   Table table;
   PanneauHistorique *panneau = Panneau(table);
   auto &f = table.t.Fenêtre;
   table.Touche(Qt::Key_F9);
   ASSERT_TRUE(panneau->isVisible());
+  EXPECT_EQ(panneau->Figures().donnes, 0);
+  EXPECT_EQ(panneau->Tableau()[1][2], "—");
   // JOUER's key does not deal behind the panel, nor Entrée press GO.
   table.Touche(Qt::Key_F2);
   table.Touche(Qt::Key_F6);
@@ -123,4 +104,20 @@ TEST(PanneauHistorique, SesTouchesEtRienDeLaTableDerrièreLui) {
   // Closed, the table has its keys again.
   table.Touche(Qt::Key_F2);
   EXPECT_TRUE(table.dossier.Existe("Tirage"));
+  // In a window of another shape the panel keeps the middle, inside it.
+  table.Touche(Qt::Key_F9);
+  ASSERT_TRUE(panneau->isVisible());
+  table.fenêtre.setMinimumSize(0, 0);
+  table.fenêtre.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+  for (const QSize taille : {QSize(1600, 900), QSize(640, 600)}) {
+    table.fenêtre.resize(taille);
+    QCoreApplication::processEvents();
+    const QRect r = panneau->geometry();
+    EXPECT_TRUE(QRect(QPoint(0, 0), taille).contains(r)) << taille.width();
+    EXPECT_NEAR(r.center().x(), taille.width() / 2, 2);
+    EXPECT_NEAR(r.center().y(), taille.height() / 2, 2);
+    EXPECT_NEAR(double(r.width()) / r.height(), 4.0 / 3, 0.02);
+    EXPECT_GT(r.width(), taille.width() * 0.6);
+    EXPECT_LT(panneau->BoutonFermer()->geometry().bottom(), r.height());
+  }
 }
