@@ -111,9 +111,16 @@ TEST(Accessibilité, LaTableSeLitDansSonOrdreEtNOffreQueCeQuiAgit) {
   auto &f = table.t.Fenêtre;
   EXPECT_TRUE(Interface(table, f.VoirRègles[1])->state().invisible);
   EXPECT_FALSE(Interface(table, f.VoirRègles[0])->state().invisible);
+  // The book pages on, and F1 closes it with its OK.
   table.Clic(f.VoirRègles[0]);
   EXPECT_FALSE(Interface(table, f.VoirRègles[1])->state().invisible);
-  table.Clic(f.VoirRègles[1]);
+  EXPECT_EQ(f.TextCombien.Caption, " 1/14");
+  EXPECT_EQ(table.Vue(f.TextScroll[0])->cursor().shape(), Qt::ForbiddenCursor);
+  table.Clic(f.TextScroll[1]);
+  table.Clic(f.TextScroll[1]);
+  EXPECT_EQ(f.TextCombien.Caption, " 3/14");
+  table.Touche(Qt::Key_F1);
+  EXPECT_FALSE(table.Vue(f.RèglesText)->isVisible());
   table.Touche(Qt::Key_F2);
   table.Touche(Qt::Key_Right);
   QAccessibleInterface *fond = QAccessible::queryAccessibleInterface(&table.fenêtre)->child(0);

@@ -114,20 +114,6 @@ TEST(Fenêtre, UnBalayageRythméSArrêteOuFinitAussitôt) {
   }
 }
 
-TEST(Fenêtre, LeLivreDesRèglesSeFeuillette) {
-  Table table;
-  auto &f = table.t.Fenêtre;
-  table.Clic(f.VoirRègles[0]);
-  EXPECT_TRUE(table.Vue(f.RèglesText)->isVisible());
-  EXPECT_EQ(f.TextCombien.Caption, " 1/14");
-  EXPECT_EQ(table.Vue(f.TextScroll[0])->cursor().shape(), Qt::ForbiddenCursor);
-  table.Clic(f.TextScroll[1]);
-  table.Clic(f.TextScroll[1]);
-  EXPECT_EQ(f.TextCombien.Caption, " 3/14");
-  QTest::keyClick(&table.fenêtre, Qt::Key_F1);
-  EXPECT_FALSE(table.Vue(f.RèglesText)->isVisible()) << "F1 closes the book with its OK";
-}
-
 // Every text of the English file is translated, and keeps the place-holders
 // (%1, %2) its French has: a missing one would drop a name or a number.
 TEST(Langues, ChaqueTexteALaTraductionAnglaise) {
