@@ -138,18 +138,21 @@ TEST(Échelle, LesCartesEtLesÉtoilesSontDessinéesÀLaTailleFinale) {
   auto &f = table.t.Fenêtre;
   table.Redimensionne({2048, 1536});
   QWidget *fond = table.fenêtre.Fond();
-  const QImage image = fond->grab().toImage();
-  const qreal ratio = image.devicePixelRatio();
-  int vues = 0;
-  for (int i = 1; i <= 50; ++i) {
-    const QPoint centre(static_cast<int>(table.t.EtoileX[i] * 2 / 15),
-                        static_cast<int>(table.t.EtoileY[i] * 2 / 15));
-    if (table.t.EtoileRayon[i] < 8 || fond->childAt(centre))
-      continue; // too small to hit one pixel for sure, or under a panel
-    ++vues;
-    EXPECT_GT(image.pixelColor(centre * ratio).lightness(), 128) << "star " << i;
-  }
-  EXPECT_GT(vues, 0);
+  const qreal ratio = fond->devicePixelRatioF();
+  // The stars are drawn at random: wait for a large one clear of the panels.
+  EXPECT_TRUE(QTest::qWaitFor([&] {
+    const QImage image = fond->grab().toImage();
+    int vues = 0;
+    for (int i = 1; i <= 50; ++i) {
+      const QPoint centre(static_cast<int>(table.t.EtoileX[i] * 2 / 15),
+                          static_cast<int>(table.t.EtoileY[i] * 2 / 15));
+      if (table.t.EtoileRayon[i] < 8 || fond->childAt(centre))
+        continue; // too small to hit one pixel for sure, or under a panel
+      ++vues;
+      EXPECT_GT(image.pixelColor(centre * ratio).lightness(), 128) << "star " << i;
+    }
+    return vues > 0;
+  }));
 
   table.Clic(f.NouveauJeu);
   QWidget *vue = table.Vue(f.CartesJeu[39]);
