@@ -35,16 +35,13 @@ QStringList NomsDesEnfants(QAccessibleInterface *parent) {
 
 } // namespace
 
-TEST(Accessibilité, LesCartesSeNommentEnFrançais) {
+// A whole deal as a reader follows it: cards named in French, the press
+// returns before the search runs, GO takes the focus, then the result's
+// sentence does; every number says whose it is.
+TEST(Accessibilité, UneDonneSeSuitÀLOreille) {
   EXPECT_EQ(QStringList({NomDeCarte(0), NomDeCarte(24), NomDeCarte(34), NomDeCarte(51)}),
             QStringList({"deux de trèfle", "roi de carreau", "dix de cœur", "as de pique"}));
   EXPECT_EQ(NomDeCarte(54), "");
-}
-
-// A whole deal as a reader follows it: the press returns before the search
-// runs, GO takes the focus, then the result's sentence does; every number
-// says whose it is.
-TEST(Accessibilité, UneDonneSeSuitÀLOreille) {
   Table table;
   auto &f = table.t.Fenêtre;
   ASSERT_EQ(Interface(table, f.NouveauJeu)->role(), QAccessible::Button);
@@ -114,9 +111,16 @@ TEST(Accessibilité, LaTableSeLitDansSonOrdreEtNOffreQueCeQuiAgit) {
   auto &f = table.t.Fenêtre;
   EXPECT_TRUE(Interface(table, f.VoirRègles[1])->state().invisible);
   EXPECT_FALSE(Interface(table, f.VoirRègles[0])->state().invisible);
+  // The book pages on, and F1 closes it with its OK.
   table.Clic(f.VoirRègles[0]);
   EXPECT_FALSE(Interface(table, f.VoirRègles[1])->state().invisible);
-  table.Clic(f.VoirRègles[1]);
+  EXPECT_EQ(f.TextCombien.Caption, " 1/14");
+  EXPECT_EQ(table.Vue(f.TextScroll[0])->cursor().shape(), Qt::ForbiddenCursor);
+  table.Clic(f.TextScroll[1]);
+  table.Clic(f.TextScroll[1]);
+  EXPECT_EQ(f.TextCombien.Caption, " 3/14");
+  table.Touche(Qt::Key_F1);
+  EXPECT_FALSE(table.Vue(f.RèglesText)->isVisible());
   table.Touche(Qt::Key_F2);
   table.Touche(Qt::Key_Right);
   QAccessibleInterface *fond = QAccessible::queryAccessibleInterface(&table.fenêtre)->child(0);

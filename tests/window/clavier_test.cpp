@@ -23,8 +23,8 @@ TEST(Clavier, UnÉchangeAuClavierVautUnÉchangeÀLaSouris) {
   table.Touche(Qt::Key_Right);
   EXPECT_TRUE(clavier.CadreVisible());
   EXPECT_EQ(clavier.PlaceDuCadre(), 0) << "the first key only shows the frame";
-  table.Touche(Qt::Key_Right);
-  table.Touche(Qt::Key_Right);
+  for (int i = 0; i < 2; ++i)
+    table.Touche(Qt::Key_Right);
   EXPECT_EQ(clavier.PlaceDuCadre(), 2);
   // The frame goes round the strip of the card that shows, not under the
   // next card where it would seem to mark that one, and its foot stays in
@@ -39,9 +39,8 @@ TEST(Clavier, UnÉchangeAuClavierVautUnÉchangeÀLaSouris) {
   EXPECT_EQ(clavier.PlaceDuCadre(), 7) << "level 2, same column";
   table.Touche(Qt::Key_Up);
   EXPECT_EQ(clavier.PlaceDuCadre(), 11) << "level 3, same column";
-  table.Touche(Qt::Key_Up);
-  table.Touche(Qt::Key_Right);
-  table.Touche(Qt::Key_Right);
+  for (const Qt::Key touche : {Qt::Key_Up, Qt::Key_Right, Qt::Key_Right})
+    table.Touche(touche);
   EXPECT_EQ(clavier.PlaceDuCadre(), 12) << "the edges hold";
 
   const auto Main = [&] {
@@ -65,8 +64,7 @@ TEST(Clavier, UnÉchangeAuClavierVautUnÉchangeÀLaSouris) {
   auto attendu = avant;
   std::swap(attendu[2], attendu[12]);
   EXPECT_EQ(Main(), attendu);
-  for (int k = 0; k <= 12; ++k)
-    EXPECT_EQ(f.CartesJeu[39 + k].Picture, attendu[k]) << k;
+  EXPECT_EQ(f.CartesJeu[39 + 12].Picture, attendu[12]);
   table.Clic(f.CartesJeu[39 + 12]);
   table.Clic(f.CartesJeu[39 + 2]);
   EXPECT_EQ(Main(), avant) << "and the mouse swaps them back";
@@ -125,15 +123,24 @@ TEST(Clavier, EntréeDansLePanneauDesNomsEnregistreSansJouer) {
   auto *saisie = table.Vue(f.NomsJoueursText[3])->findChild<QLineEdit *>();
   QTest::mouseClick(saisie, Qt::LeftButton);
   saisie->selectAll();
-  QTest::keyClicks(saisie, "Zoe");
+  // A quote, a letter the file cannot carry and a pasted line break would
+  // break the file's line: the box refuses them.
+  QTest::keyClicks(saisie, "Zo");
+  for (const QString lettre : {"é", "\"", "\u0416"})
+    QTest::sendKeyEvent(QTest::KeyAction::Click, saisie, Qt::Key_unknown, lettre, Qt::NoModifier);
+  saisie->insert("\r\n");
+  saisie->insert("a\tb");
   for (const Qt::Key touche : {Qt::Key_F2, Qt::Key_F6, Qt::Key_F1, Qt::Key_Space})
     QTest::keyClick(saisie, touche);
+  EXPECT_EQ(f.NomsJoueursText[3].Text, "Zoé ");
   EXPECT_TRUE(f.NomsJoueursSS.Visible);
   EXPECT_FALSE(f.RèglesText.Visible) << "F1 waits for the panel";
+  table.Vue(f.NomsJoueursText[1])->findChild<QLineEdit *>()->clear();
   QTest::keyClick(saisie, Qt::Key_Return);
   EXPECT_FALSE(f.NomsJoueursSS.Visible);
-  EXPECT_EQ(f.JoueursLabel[3].Caption, "Zoe ");
-  EXPECT_NE(table.dossier.Lit("Noms").find("\"Zoe \""), std::string::npos);
+  EXPECT_EQ(f.JoueursLabel[3].Caption, "Zoé ");
+  EXPECT_EQ(f.JoueursLabel[1].Caption, "GigaOctets") << "an empty box keeps the name";
+  EXPECT_NE(table.dossier.Lit("Noms").find("\"Zo\xE9 \"\r\n"), std::string::npos);
   EXPECT_TRUE(f.Joue.Visible) << "GO was not pressed";
   EXPECT_EQ(table.dossier.Lit("Scores"), scores);
 
@@ -154,25 +161,18 @@ TEST(Clavier, EntréeDansLePanneauDesNomsEnregistreSansJouer) {
   EXPECT_TRUE(f.VoirOrdi[0].Visible);
 }
 
-// The keys are named as on a French keyboard and as the README names them.
-TEST(Clavier, LesBullesNommentLesTouchesEnFrançais) {
+// The keys are named as on a French keyboard and as the README names them;
+// F11 puts the table full screen and back, and Échap keeps its one meaning.
+TEST(Clavier, LesBullesNommentLesTouchesEnFrançaisEtF11LePleinÉcran) {
   Table table;
   auto &f = table.t.Fenêtre;
   EXPECT_EQ(table.Vue(f.Arrêt)->toolTip(), "STOP — touche Échap");
-  EXPECT_EQ(table.Vue(f.Joue)->toolTip(), "GO — touche Entrée");
   EXPECT_EQ(table.Vue(f.Fin)->toolTip(), "QUITTER — touche Ctrl+Q");
   EXPECT_TRUE(table.Vue(f.TempsShape)->toolTip().contains("Entrée"));
   table.fenêtre.PourChaqueVue([](const Contrôle &c, QWidget *vue) {
-    EXPECT_FALSE(vue->toolTip().contains("Esc")) << c.Nom;
-    EXPECT_FALSE(vue->toolTip().contains("Echap")) << c.Nom;
-    EXPECT_FALSE(vue->toolTip().contains("Return")) << c.Nom;
+    for (const char *anglais : {"Esc", "Echap", "Return"})
+      EXPECT_FALSE(vue->toolTip().contains(anglais)) << c.Nom;
   });
-}
-
-// F11 puts the table full screen and back; Échap keeps its one meaning.
-TEST(Clavier, F11BasculeLePleinÉcranEtÉchapResteSTOP) {
-  Table table;
-  auto &f = table.t.Fenêtre;
   table.Touche(Qt::Key_F11);
   EXPECT_TRUE(table.fenêtre.windowState() & Qt::WindowFullScreen);
   table.Touche(Qt::Key_Escape);

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <tuple>
 
+#include "platform/qt/bureau/reglages.h"
 #include "platform/qt/fenetre/images.h"
 #include "table_essai.h"
 
@@ -22,12 +23,6 @@ QPoint Milieu(const Table &table, const Contrôle &c, double s) {
   }
   const QPoint coin = table.fenêtre.Fond()->pos();
   return coin + QPoint(static_cast<int>(x * s / 15), static_cast<int>(y * s / 15));
-}
-
-// As the window system does it: the window's own surface is resized.
-void Redimensionne(Table &table, QSize taille) {
-  table.fenêtre.windowHandle()->resize(taille);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return table.fenêtre.size() == taille; }, 1000));
 }
 
 // The window brought to 1024 x 768 and averaged over blocks of 32 x 32.
@@ -54,11 +49,9 @@ TEST(Échelle, LaTableGrandiEnEntierAuMilieuDuNoir) {
   table.fenêtre.Synchronise();
   ASSERT_TRUE(QTest::qWaitFor([&] { return table.plateforme.pages->Vue(VueWeb::LogoWeb); }, 9000));
   const QImage petit = Blocs(table.fenêtre);
-  Redimensionne(table, {2048, 1536});
+  table.Redimensionne({2048, 1536});
   EXPECT_EQ(table.fenêtre.Échelle(), 2.0);
   EXPECT_EQ(table.fenêtre.Fond()->geometry(), QRect(0, 0, 2048, 1536));
-  EXPECT_EQ(table.Vue(f.SSJoueur[0])->geometry(), QRect(8, 322, 526, 554));
-  EXPECT_EQ(table.Vue(f.NouveauJeu)->geometry(), QRect(16, 16, 240, 206));
   EXPECT_EQ(table.Vue(f.CartesJeu[44])->geometry(), QRect(0, 152, 180, 270));
   // The game's pages, each in its panel, whole, taking no event, nothing of
   // theirs refused.
@@ -95,7 +88,7 @@ TEST(Échelle, LaTableGrandiEnEntierAuMilieuDuNoir) {
   const int large = table.Vue(f.JoueursLabel[3])->width();
 
   // A wide screen: the table takes the full height and black bands the sides.
-  Redimensionne(table, {1920, 1080});
+  table.Redimensionne({1920, 1080});
   const double s = 1080.0 / 768;
   EXPECT_DOUBLE_EQ(table.fenêtre.Échelle(), s);
   EXPECT_EQ(table.fenêtre.Fond()->geometry(), QRect(240, 0, 1440, 1080));
@@ -106,8 +99,7 @@ TEST(Échelle, LaTableGrandiEnEntierAuMilieuDuNoir) {
   EXPECT_EQ(écran.pixelColor(QPoint(100, 540) * écran.devicePixelRatio()), QColor(Qt::black));
   EXPECT_EQ(écran.pixelColor(QPoint(1820, 540) * écran.devicePixelRatio()), QColor(Qt::black));
 
-  Redimensionne(table, {1024, 768});
-  EXPECT_EQ(table.Vue(f.SSJoueur[0])->geometry(), QRect(4, 161, 263, 277));
+  table.Redimensionne({1024, 768});
   EXPECT_EQ(table.Vue(f.CartesJeu[44])->geometry(), QRect(0, 76, 90, 135));
   EXPECT_NEAR(large, 2 * table.Vue(f.JoueursLabel[3])->width(), 4);
 }
@@ -118,7 +110,7 @@ TEST(Échelle, UnClicTombeLàOùLeContrôleSeVoit) {
   Table table;
   auto &f = table.t.Fenêtre;
   for (const QSize taille : {QSize(1600, 1000), QSize(800, 600)}) {
-    Redimensionne(table, taille);
+    table.Redimensionne(taille);
     const double s = table.fenêtre.Échelle();
     QWindow *fenêtre = table.fenêtre.windowHandle();
     QTest::mouseClick(fenêtre, Qt::LeftButton, {}, Milieu(table, f.NouveauJeu, s));
@@ -139,50 +131,50 @@ TEST(Échelle, UnClicTombeLàOùLeContrôleSeVoit) {
 }
 
 // At twice the size a card is the picture drawn at twice the size, not the
-// small one stretched.
-TEST(Échelle, LesCartesSontDessinéesÀLaTailleFinale) {
+// small one stretched, and the stars fall at grown places, grown themselves;
+// pictures that look alike (6 and 9, ♦ and ♥) differ.
+TEST(Échelle, LesCartesEtLesÉtoilesSontDessinéesÀLaTailleFinale) {
   Table table;
   auto &f = table.t.Fenêtre;
-  Redimensionne(table, {2048, 1536});
+  table.Redimensionne({2048, 1536});
+  QWidget *fond = table.fenêtre.Fond();
+  const qreal ratio = fond->devicePixelRatioF();
+  // The stars are drawn at random: wait for a large one clear of the panels.
+  EXPECT_TRUE(QTest::qWaitFor([&] {
+    const QImage image = fond->grab().toImage();
+    int vues = 0;
+    for (int i = 1; i <= 50; ++i) {
+      const QPoint centre(static_cast<int>(table.t.EtoileX[i] * 2 / 15),
+                          static_cast<int>(table.t.EtoileY[i] * 2 / 15));
+      if (table.t.EtoileRayon[i] < 8 || fond->childAt(centre))
+        continue; // too small to hit one pixel for sure, or under a panel
+      ++vues;
+      EXPECT_GT(image.pixelColor(centre * ratio).lightness(), 128) << "star " << i;
+    }
+    return vues > 0;
+  }));
+
   table.Clic(f.NouveauJeu);
   QWidget *vue = table.Vue(f.CartesJeu[39]);
   ASSERT_EQ(vue->size(), QSize(180, 270));
-  const QRect dedans(16, 16, 148, 238);
+  const QRect dedans(16 * ratio, 16 * ratio, 148 * ratio, 238 * ratio);
   const QImage montré = vue->grab().toImage().convertToFormat(QImage::Format_RGB32);
-  const qreal ratio = montré.devicePixelRatio();
   const QImage attendu =
       ImageBrute(table.t.Mains[4][0], QSize(180, 270), ratio).convertToFormat(QImage::Format_RGB32);
-  const QRect zone(dedans.topLeft() * ratio, dedans.size() * ratio);
-  EXPECT_TRUE(montré.copy(zone) == attendu.copy(zone));
-}
-
-// The stars fall on the grown table at grown places, and grown themselves.
-TEST(Échelle, LesÉtoilesSontÀLÉchelle) {
-  Table table;
-  Redimensionne(table, {2048, 1536});
-  QWidget *fond = table.fenêtre.Fond();
-  const QImage image = fond->grab().toImage();
-  const qreal ratio = image.devicePixelRatio();
-  int vues = 0;
-  for (int i = 1; i <= 50; ++i) {
-    const QPoint centre(static_cast<int>(table.t.EtoileX[i] * 2 / 15),
-                        static_cast<int>(table.t.EtoileY[i] * 2 / 15));
-    if (table.t.EtoileRayon[i] < 8 || fond->childAt(centre))
-      continue; // too small to hit one pixel for sure, or under a panel
-    ++vues;
-    EXPECT_GT(image.pixelColor(centre * ratio).lightness(), 128) << "star " << i;
-  }
-  EXPECT_GT(vues, 0);
+  EXPECT_TRUE(montré.copy(dedans) == attendu.copy(dedans));
+  EXPECT_NE(ImageBrute(4, QSize(90, 135), 1), ImageBrute(7, QSize(90, 135), 1)) << "6 and 9";
+  EXPECT_NE(ImageBrute(13, QSize(90, 135), 1), ImageBrute(26, QSize(90, 135), 1)) << "♦ and ♥";
 }
 
 // The player's size comes back, fitted to the screen's free area when it no
-// longer fits (the test's screen may be smaller than the saved size).
+// longer fits (the test's screen may be smaller than the saved size); a
+// saved size cut short, or too small to play in, gives the table's own size.
 TEST(Échelle, LaFenêtreRouvreÀLaTailleOùLeJoueurLAQuittéeSiElleTient) {
   {
     Table table;
     table.fenêtre.RetrouveTaille();
     table.fenêtre.setMinimumSize(0, 0);
-    Redimensionne(table, QSize(1280, 960));
+    table.Redimensionne(QSize(1280, 960));
   } // the window goes as at the end of a session, and keeps its size
   Table table;
   EXPECT_EQ(table.fenêtre.size(), QSize(1024, 768)) << "the design until the player's size is read";
@@ -195,4 +187,17 @@ TEST(Échelle, LaFenêtreRouvreÀLaTailleOùLeJoueurLAQuittéeSiElleTient) {
   EXPECT_TRUE(taille == QSize(1280, 960) || cadre.width() == libre.width() ||
               cadre.height() == libre.height());
   EXPECT_NEAR(table.fenêtre.Échelle(), taille.height() / 768.0, 0.01);
+
+  RéglagesDuJoueur()->remove("fenetre/geometrie");
+  table.fenêtre.RetrouveTaille();
+  const QSize dessin = table.fenêtre.size();
+  table.fenêtre.resize(table.fenêtre.minimumSize());
+  for (const QByteArray &géométrie :
+       {table.fenêtre.saveGeometry(), table.fenêtre.saveGeometry().left(10)}) {
+    RéglagesDuJoueur()->setValue("fenetre/geometrie", géométrie);
+    table.fenêtre.resize(table.fenêtre.minimumSize());
+    table.fenêtre.RetrouveTaille();
+    EXPECT_EQ(table.fenêtre.size(), dessin);
+  }
+  RéglagesDuJoueur()->remove("fenetre/geometrie");
 }

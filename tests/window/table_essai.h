@@ -48,4 +48,9 @@ struct Table {
   void Touche(Qt::Key touche, Qt::KeyboardModifiers modifs = Qt::NoModifier) {
     QTest::keyClick(&fenêtre, touche, modifs);
   }
+  // As the window system does it: the window's own surface is resized.
+  void Redimensionne(QSize taille) {
+    fenêtre.windowHandle()->resize(taille);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return fenêtre.size() == taille; }, 1000));
+  }
 };

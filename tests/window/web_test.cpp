@@ -69,19 +69,21 @@ struct BaseEssai {
 
 TEST(PagesWeb, SeulsLeServeurConfiguréEtLeLogoLocalSontPermis) {
   BaseEssai base("http://127.0.0.1:8765/");
-  EXPECT_TRUE(PagesWeb::Permis("http://127.0.0.1:8765/pub0.htm"));
-  EXPECT_FALSE(PagesWeb::Permis("http://127.0.0.1:9999/pub0.htm"));
-  EXPECT_FALSE(PagesWeb::Permis("https://exemple.com/pub0.htm"));
-  EXPECT_TRUE(PagesWeb::Permis(
-      QUrl::fromLocalFile(QCoreApplication::applicationDirPath() + "/logomdc200.htm").toString()));
-  EXPECT_FALSE(PagesWeb::Permis(QUrl::fromLocalFile("/etc/passwd").toString()));
+  const QString ici =
+      QUrl::fromLocalFile(QCoreApplication::applicationDirPath() + "/logomdc200.htm").toString();
+  for (const auto &[adresse, permise] :
+       {std::pair<QString, bool>{"http://127.0.0.1:8765/pub0.htm", true},
+        {"http://127.0.0.1:9999/pub0.htm", false},
+        {"https://exemple.com/pub0.htm", false},
+        {ici, true},
+        {QUrl::fromLocalFile("/etc/passwd").toString(), false}})
+    EXPECT_EQ(PagesWeb::Permis(adresse), permise) << adresse.toStdString();
   PagesWeb::DéfinitBase("");
   EXPECT_TRUE(PagesWeb::Base().startsWith("file://")) << "by default the game's own pages";
   PagesWeb::DéfinitDossierLocal("/usr/share/troisniveaux");
   EXPECT_EQ(PagesWeb::Base(), "file:///usr/share/troisniveaux/");
   EXPECT_TRUE(PagesWeb::Permis("file:///usr/share/troisniveaux/logomdc200.htm"));
-  EXPECT_FALSE(PagesWeb::Permis(
-      QUrl::fromLocalFile(QCoreApplication::applicationDirPath() + "/logomdc200.htm").toString()));
+  EXPECT_FALSE(PagesWeb::Permis(ici)) << "once installed, only the installed logo";
 }
 
 #ifndef TN_WEBENGINE
