@@ -3,7 +3,8 @@
 set -euo pipefail
 racine=$(cd "$(dirname "$0")/.." && pwd)
 # scripts/tester.sh configures the same build/ with warnings as errors and a
-# /usr install: the player's build goes back to the defaults.
+# /usr install: the player's build goes back to the defaults (the binary
+# folder is worked out again for its prefix).
 "$racine/scripts/preparer.sh" "$racine/build" -DTN_WERROR=OFF -DTN_SANITIZE=OFF \
-  -DCMAKE_INSTALL_PREFIX=/usr/local -DCMAKE_INSTALL_BINDIR=bin
+  -DCMAKE_INSTALL_PREFIX=/usr/local -UCMAKE_INSTALL_BINDIR
 exec "$racine/build/troisniveaux"

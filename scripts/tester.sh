@@ -9,8 +9,10 @@ racine=$(cd "$(dirname "$0")/.." && pwd)
 export TN_PAQUETS_EN_PLUS=paquets-verification.txt
 
 # Configured for /usr, as a distribution builds it, so that the same build
-# is installed below (its binaries go to /usr/games with no other setting).
-"$racine/scripts/preparer.sh" "$racine/build" -DTN_WERROR=ON -DCMAKE_INSTALL_PREFIX=/usr
+# is installed below (its binaries go to /usr/games with no other setting;
+# a binary folder that scripts/jouer.sh left cached is forgotten).
+"$racine/scripts/preparer.sh" "$racine/build" -DTN_WERROR=ON -DCMAKE_INSTALL_PREFIX=/usr \
+  -UCMAKE_INSTALL_BINDIR
 "$racine/scripts/verifier-format.sh"
 (cd "$racine/build" && ctest --output-on-failure --timeout 600)
 # The window tests once more on a virtual X screen with no window manager,
