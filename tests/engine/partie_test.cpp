@@ -3,8 +3,11 @@
 
 #include <algorithm>
 #include <numeric>
+#include <sstream>
 #include <vector>
 
+#include "analyse/commande_historique.h"
+#include "files/historique.h"
 #include "partie_essai.h"
 
 namespace {
@@ -18,7 +21,10 @@ constexpr int DonnesAuHasard = 150;
 
 } // namespace
 
-TEST(Partie, LaDonneExperteDeRéférenceSePaieCommePrévu) {
+// The reference deal in EXPERT, then replayed in DEBUTANT on scores near
+// their limits: the scores stop there, the solution view and back pay
+// nothing, and the history gets one line per paid deal and one for SCORES A 0.
+TEST(Partie, LaDonneDeRéférenceSePaieCommePrévuEtSeNoteDansLHistorique) {
   Partie p(0);
   p.Tirage(DonneDeRéférence);
   p.plateforme.script = [&](int tour) {
@@ -42,10 +48,45 @@ TEST(Partie, LaDonneExperteDeRéférenceSePaieCommePrévu) {
             "FLUSH,BRELAN,RIEN,CARRE,FULL,1 PAIRE,FULL,2 PAIRES,RIEN,FULL,1 PAIRE,RIEN");
   EXPECT_FALSE(p.t.Fenêtre.VoirOrdi[0].Visible) << "no solution view in EXPERT";
   EXPECT_TRUE(p.dossier.Existe("Temps1") && !p.dossier.Existe("Temps2"));
-  // A replay pays the same cards once more.
+
+  p.dossier.Écrit("Scores", "-2147483646\r\n2147483627\r\n0\r\n-2147483648\r\n");
+  p.t.LitScores();
+  p.t.Mode_MouseUp();
   p.plateforme.tours = 0;
   p.t.Rejoue_MouseUp();
-  EXPECT_EQ(p.dossier.Lit("Scores"), "-10\r\n42\r\n-14\r\n-18\r\n");
+  const std::string bornés = "-2147483648 2147483647 -7 -2147483648";
+  EXPECT_EQ(Partie::Textes(p.t.Fenêtre.ScoreLabel), bornés);
+  EXPECT_EQ(p.dossier.Lit("Scores"), "-2147483648\r\n2147483647\r\n-7\r\n-2147483648\r\n");
+  ASSERT_TRUE(p.t.Fenêtre.VoirOrdi[0].Visible);
+  p.t.VoirOrdi_Click(0);
+  p.t.VoirOrdi_Click(1);
+  EXPECT_EQ(Partie::Textes(p.t.Fenêtre.ScoreLabel), bornés);
+  EXPECT_EQ(Partie::Textes(p.t.Fenêtre.TotalLabel), "-5 21 -7 -9");
+  p.t.Scoresà0_MouseUp();
+
+  const auto lecture = historique::Lit();
+  ASSERT_EQ(lecture.entrées.size(), 3u) << p.dossier.Lit("Historique");
+  EXPECT_EQ(historique::Ligne(lecture.entrées[0]).substr(19),
+            ";EXPERT;-5;21;-7;-9;-5;21;-7;-9\r\n");
+  EXPECT_EQ(historique::Ligne(lecture.entrées[1]).substr(19),
+            ";DEBUTANT;-5;21;-7;-9;-2147483648;2147483647;-7;-2147483648\r\n");
+  EXPECT_TRUE(lecture.entrées[2].remise);
+  EXPECT_TRUE(p.plateforme.erreurs.empty());
+  std::ostringstream sortie, erreurs;
+  ASSERT_EQ(CommandeHistorique({"--json"}, sortie, erreurs), 0) << erreurs.str();
+  EXPECT_TRUE(sortie.str().starts_with(
+      "{\"donnes\": 2, \"remises\": 1, \"lignesIgnorées\": 0, \"sièges\": ["));
+  EXPECT_NE(sortie.str().find(
+                "{\"nom\": \"GigaOctets\", \"donnes\": 2, \"moyenne\": 21.00, \"meilleure\": 21, "
+                "\"pire\": 21, \"score\": 0}"),
+            std::string::npos)
+      << sortie.str();
+  std::ostringstream texte;
+  ASSERT_EQ(CommandeHistorique({}, texte, erreurs), 0);
+  EXPECT_NE(texte.str().find("Historique : 2 donnes, 1 remise à zéro"), std::string::npos)
+      << texte.str();
+  EXPECT_EQ(CommandeHistorique({"Absent"}, texte, erreurs), 1);
+  EXPECT_EQ(CommandeHistorique({"--moyenne"}, texte, erreurs), 2);
 }
 
 TEST(Partie, JouerPuisGoPasseParLesÉtatsDeLaTable) {
@@ -72,7 +113,8 @@ TEST(Partie, JouerPuisGoPasseParLesÉtatsDeLaTable) {
   p.t.TempsTimer_Timer();
   p.t.TempsTimer_Timer();
   p.t.Joue_Click();
-  EXPECT_FALSE(f.Joue.Visible || f.Arrêt.Enabled || f.TempsTimer.Enabled || f.CartesJeu[45].Enabled);
+  EXPECT_FALSE(f.Joue.Visible || f.Arrêt.Enabled || f.TempsTimer.Enabled ||
+               f.CartesJeu[45].Enabled);
   EXPECT_TRUE(f.NouveauJeu.Enabled && f.VoirOrdi[0].Visible && f.VoirOrdi[0].Enabled);
   EXPECT_EQ(p.dossier.Lit("Temps2"), "2\r\n");
   EXPECT_EQ(p.SommeDesTotaux(), 0);
@@ -205,18 +247,6 @@ TEST(Partie, LeToutFlushDuDébutantLuiEstReconnuEtLExpertLeGarde) {
   q.t.Joue_Click();
   EXPECT_EQ(q.t.Fenêtre.ExtraLabel[3].Caption, q.t.MégaQuinte[3] ? "MEGA QUINTE" : "TOUT FLUSH");
   EXPECT_EQ(std::vector<uint8_t>(q.t.Mains[4], q.t.Mains[4] + 13), disposition);
-}
-
-TEST(Partie, UnRejoueSansTirageOuAvecUnTirageAbîméVaJusquAuBout) {
-  for (const char *contenu : {static_cast<const char *>(nullptr), "7\r\nxyz\r\n300\r\n-1\r\n53\r\n255\r\n"}) {
-    Partie p;
-    if (contenu)
-      p.dossier.Écrit("Tirage", contenu);
-    p.t.Rejoue_MouseUp();
-    EXPECT_TRUE(p.t.Fenêtre.NouveauJeu.Enabled && !p.t.Fenêtre.Arrêt.Enabled);
-    EXPECT_EQ(p.SommeDesTotaux(), 0);
-    EXPECT_TRUE(p.plateforme.erreurs.empty());
-  }
 }
 
 TEST(Partie, LHorlogeDécompteJusquÀZéroEtSArrêteAuPlafond) {
