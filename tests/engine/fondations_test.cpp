@@ -7,32 +7,6 @@
 #include "core/aleatoire.h"
 #include "partie_essai.h"
 
-TEST(Rangements, ChaqueRangéeEstUneDispositionEtLesGroupesVontParCinquanteSix) {
-  PlateformeSansFenêtre p;
-  TroisNiveaux t(p);
-  t.ConstruitRangements();
-  ASSERT_EQ(t.Rangements.size(), 72073u);
-  EXPECT_EQ(t.Rangements[0], (std::array<uint8_t, 13>{}));
-  const std::set<int> toutes = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12};
-  int débutsDeGroupe = 0;
-  for (int i = 1; i <= NombreRangements; ++i) {
-    const auto &r = t.Rangements[i];
-    ASSERT_EQ(std::set<int>(r.begin(), r.end()), toutes) << "rangée " << i;
-    ASSERT_TRUE(std::is_sorted(r.begin(), r.begin() + 5) &&
-                std::is_sorted(r.begin() + 5, r.begin() + 10) &&
-                std::is_sorted(r.begin() + 10, r.end()));
-    if (i > 1) {
-      const auto &avant = t.Rangements[i - 1];
-      ASSERT_TRUE(std::lexicographical_compare(avant.begin(), avant.begin() + 10, r.begin(),
-                                               r.begin() + 10));
-      const bool nouveauNiveau1 = !std::equal(r.begin(), r.begin() + 5, avant.begin());
-      ASSERT_EQ(nouveauNiveau1, i % 56 == 1) << "rangée " << i;
-    }
-    débutsDeGroupe += i % 56 == 1;
-  }
-  EXPECT_EQ(débutsDeGroupe, 1287);
-}
-
 TEST(Donne, UneHorlogeArrêtéeDonneQuandMêmeLesCinquanteDeuxCartes) {
   Partie s;
   s.plateforme.horloge = 43200.0f; // never moves
