@@ -60,9 +60,7 @@ TEST(FichiersLimites, UnDossierSansNouveauFichierSÉcritEnPlace) {
   for (const char *nom : {"", "Noms", "Scores"})
     if (chown((dossier / nom).c_str(), 65534, 65534) != 0 && geteuid() == 0)
       GTEST_SKIP() << "cannot hand the folder to another user";
-  fs::permissions(dossier, fs::perms::owner_read | fs::perms::owner_exec | fs::perms::group_read |
-                               fs::perms::group_exec | fs::perms::others_read |
-                               fs::perms::others_exec);
+  fs::permissions(dossier, fs::perms(0555));
   const auto résultat = EnUtilisateurOrdinaire([&] {
     PlateformeSansFenêtre plateforme(dossier.string());
     TroisNiveaux t(plateforme);

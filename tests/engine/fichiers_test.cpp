@@ -101,7 +101,6 @@ TEST(Fichiers, UnNomsOuUnScoresIllisibleArrêteLeDémarrageAvecUnMessageClair) {
   };
   for (const Cas &c : {
            Cas{"Noms", std::nullopt, "est introuvable"},
-           Cas{"Scores", std::nullopt, "est introuvable"},
            Cas{"Noms", "", "ne contient aucun nom"},
            Cas{"Noms", "\"A\"\r\n\"B\"\r\n", "contient seulement deux noms au lieu de quatre"},
            Cas{"Noms", "\"A\"\r\nB\r\n\"C\"\r\n\"D\"\r\n",
@@ -112,9 +111,6 @@ TEST(Fichiers, UnNomsOuUnScoresIllisibleArrêteLeDémarrageAvecUnMessageClair) {
            Cas{"Scores", "1\r\n2\r\n2147483648\r\n4\r\n",
                "la ligne 3 contient un nombre trop grand"},
            Cas{"Scores", "0\r\n-2147483649\r\n0\r\n0\r\n", "la ligne 2 contient un nombre trop"},
-           Cas{"Scores", "99999999999999999999999\r\n0\r\n0\r\n0\r\n",
-               "la ligne 1 contient un nombre trop grand"},
-           Cas{"Scores", "0\r\n0\r\n0\r\n1-2\r\n", "la ligne 4 n'est pas un nombre entier"},
            // Past a size the game never writes, a file is refused as too large.
            Cas{"Noms", "\"A\"\r\n\"" + std::string(2 << 20, 'b'),
                "est trop grand pour être un fichier du jeu"},
