@@ -40,18 +40,22 @@ TEST(Abattage, UnNiveauGagnéPaieSelonLaClasseDuGagnant) {
     double valeur;
     int gain;
   };
-  const Cas cas[] = {{1, 1505, 5}, {1, 1000, 4}, {1, 612, 1},   {2, 1512, 10}, {2, 1012, 8}, {2, 600, 2},
-                     {2, 612, 2},  {2, 512, 1},  {3, 350, 3},   {3, 362, 3},   {3, 112, 1}};
+  const Cas cas[] = {{1, 1505, 5}, {1, 1000, 4}, {1, 612, 1}, {2, 1512, 10},
+                     {2, 1012, 8}, {2, 600, 2},  {2, 612, 2}, {2, 512, 1},
+                     {3, 350, 3},  {3, 362, 3},  {3, 112, 1}};
   for (const Cas &c : cas) {
     Abattage a;
     for (int s = 1; s <= 3; ++s)
       a.Valeurs(s, 9 - s, 6 - s, static_cast<float>(4 - s));
-    a.Valeurs(0, c.niveau == 1 ? c.valeur : 9, c.niveau == 2 ? c.valeur : 6, c.niveau == 3 ? static_cast<float>(c.valeur) : 4);
+    a.Valeurs(0, c.niveau == 1 ? c.valeur : 9, c.niveau == 2 ? c.valeur : 6,
+              c.niveau == 3 ? static_cast<float>(c.valeur) : 4);
     a.t.AfficheRésultat();
     const int premier = 3 * (c.niveau - 1);
     for (int j = 0; j <= 2; ++j) {
-      EXPECT_EQ(a.t.Fenêtre.LabelPaie[premier + j].Caption, std::to_string(c.gain)) << c.niveau << " " << c.valeur;
-      EXPECT_EQ(a.t.Fenêtre.LabelPaie[9 * (j + 1) + premier].Caption, std::to_string(-c.gain)) << c.valeur;
+      EXPECT_EQ(a.t.Fenêtre.LabelPaie[premier + j].Caption, std::to_string(c.gain))
+          << c.niveau << " " << c.valeur;
+      EXPECT_EQ(a.t.Fenêtre.LabelPaie[9 * (j + 1) + premier].Caption, std::to_string(-c.gain))
+          << c.valeur;
     }
   }
 }

@@ -5,59 +5,10 @@
 #include <set>
 
 #include "core/aleatoire.h"
-#include "core/table_state.h"
-#include "dossier_essai.h"
-#include "platform/sans_fenetre.h"
-
-namespace {
-
-struct Séance {
-  DossierEssai dossier;
-  PlateformeSansFenêtre plateforme{dossier.Chemin()};
-  TroisNiveaux t{plateforme};
-};
-
-std::array<uint8_t, 13> Rangée(std::initializer_list<int> v) {
-  std::array<uint8_t, 13> r{};
-  std::copy(v.begin(), v.end(), r.begin());
-  return r;
-}
-
-} // namespace
-
-TEST(Rangements, ChaqueRangéeEstUneDispositionEtLesGroupesVontParCinquanteSix) {
-  PlateformeSansFenêtre p;
-  TroisNiveaux t(p);
-  t.ConstruitRangements();
-  ASSERT_EQ(t.Rangements.size(), 72073u);
-  EXPECT_EQ(t.Rangements[0], (std::array<uint8_t, 13>{}));
-  const std::set<int> toutes = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12};
-  int débutsDeGroupe = 0;
-  for (int i = 1; i <= NombreRangements; ++i) {
-    const auto &r = t.Rangements[i];
-    ASSERT_EQ(std::set<int>(r.begin(), r.end()), toutes) << "rangée " << i;
-    ASSERT_TRUE(std::is_sorted(r.begin(), r.begin() + 5) &&
-                std::is_sorted(r.begin() + 5, r.begin() + 10) &&
-                std::is_sorted(r.begin() + 10, r.end()));
-    if (i > 1) {
-      const auto &avant = t.Rangements[i - 1];
-      ASSERT_TRUE(std::lexicographical_compare(avant.begin(), avant.begin() + 10, r.begin(),
-                                               r.begin() + 10));
-      const bool nouveauNiveau1 = !std::equal(r.begin(), r.begin() + 5, avant.begin());
-      ASSERT_EQ(nouveauNiveau1, i % 56 == 1) << "rangée " << i;
-    }
-    débutsDeGroupe += i % 56 == 1;
-  }
-  EXPECT_EQ(débutsDeGroupe, 1287);
-
-  // Those rules fix the table whole; two rows as a reminder of its order.
-  EXPECT_EQ(t.Rangements[57], Rangée({0, 1, 2, 3, 5, 4, 6, 7, 8, 9, 10, 11, 12}));
-  EXPECT_EQ(t.Rangements[72072], Rangée({8, 9, 10, 11, 12, 3, 4, 5, 6, 7, 0, 1, 2}));
-}
+#include "partie_essai.h"
 
 TEST(Donne, UneHorlogeArrêtéeDonneQuandMêmeLesCinquanteDeuxCartes) {
-  Séance s;
-  s.t.Form_Load();
+  Partie s;
   s.plateforme.horloge = 43200.0f; // never moves
   s.t.Init();
   s.t.Distribue();
@@ -71,18 +22,15 @@ TEST(Donne, UneHorlogeArrêtéeDonneQuandMêmeLesCinquanteDeuxCartes) {
       attendu += std::to_string(s.t.Mains[siège][k]) + "\r\n";
     }
   EXPECT_EQ(s.dossier.Lit("Tirage"), attendu);
-  for (int k = 0; k <= 12; ++k) {
-    EXPECT_EQ(s.t.Mains[4][k], s.t.Mains[3][k]);
-    EXPECT_EQ(s.t.Fenêtre.CartesJeu[39 + k].Picture, s.t.Mains[3][k]);
-    EXPECT_TRUE(s.t.Fenêtre.CartesJeu[39 + k].Enabled);
-  }
-  for (int c = 0; c <= 38; ++c)
-    EXPECT_EQ(s.t.Fenêtre.CartesJeu[c].Picture, PasDeCarte);
+  for (int k = 0; k <= 12; ++k)
+    EXPECT_TRUE(s.t.Mains[4][k] == s.t.Mains[3][k] &&
+                s.t.Fenêtre.CartesJeu[39 + k].Picture == s.t.Mains[3][k] &&
+                s.t.Fenêtre.CartesJeu[39 + k].Enabled &&
+                s.t.Fenêtre.CartesJeu[k].Picture == PasDeCarte);
 }
 
 TEST(Donne, InitRemetLaTableÀZéroSansToucherAuReste) {
-  Séance s;
-  s.t.Form_Load();
+  Partie s;
   auto &t = s.t;
   auto &f = t.Fenêtre;
   t.CarteLevée = 1;
@@ -90,10 +38,8 @@ TEST(Donne, InitRemetLaTableÀZéroSansToucherAuReste) {
   t.ToutFlush[2] = t.ToutQuinte[1] = t.SixPaires[3] = t.MégaQuinte[0] = true;
   t.TotauxDonne[1] = 7;
   f.ExtraLabel[2].Caption = f.TotalLabel[0].Caption = "12";
-  for (auto &l : f.LabelPaie) {
-    l.Caption = "-4";
-    l.ForeColor = l.BackColor = 0x0000FF;
-  }
+  for (auto &l : f.LabelPaie)
+    l.Caption = "-4", l.ForeColor = l.BackColor = 0x0000FF;
   f.EnchèreLabel[4].Visible = f.Joue.Visible = true;
   f.CartesJeu[40].Picture = f.CartesJeu[52].Picture = 17;
   t.Mains[4][0] = 9;
@@ -105,8 +51,7 @@ TEST(Donne, InitRemetLaTableÀZéroSansToucherAuReste) {
   t.Init();
   EXPECT_EQ(t.CarteLevée, 0);
   EXPECT_FALSE(t.ScoresÉcrits || t.ScoresRemisà0 || t.ToutFlush[2] || t.ToutQuinte[1] ||
-               t.SixPaires[3] || t.MégaQuinte[0] || f.EnchèreLabel[4].Visible);
-  EXPECT_EQ(t.TotauxDonne[1], 0);
+               t.SixPaires[3] || t.MégaQuinte[0] || f.EnchèreLabel[4].Visible || t.TotauxDonne[1]);
   EXPECT_EQ(f.ExtraLabel[2].Caption + f.TotalLabel[0].Caption + f.LabelPaie[35].Caption, "");
   EXPECT_EQ(f.LabelPaie[7].ForeColor, 0u);
   // Each payment label wears the colour of the opponent it stands for.
@@ -116,57 +61,25 @@ TEST(Donne, InitRemetLaTableÀZéroSansToucherAuReste) {
   EXPECT_TRUE(f.TempsShape.Left == -3900 && f.TempsShape.BackColor == CouleurSiège[0]);
   EXPECT_EQ(t.TempsDébutant, 17);
   // Left alone: slot 52, the hands, the kept rows, the clock and the buttons.
-  EXPECT_TRUE(f.CartesJeu[52].Picture == 17 && t.Mains[4][0] == 9 && t.MeilleurRangement[1] == 1234);
+  EXPECT_TRUE(f.CartesJeu[52].Picture == 17 && t.Mains[4][0] == 9 &&
+              t.MeilleurRangement[1] == 1234);
   EXPECT_TRUE(t.TempsÉcoulé == 12 && f.TempsLabel.Caption == "5" && f.Joue.Visible);
 }
 
 TEST(Démarrage, LaTableAttendJouerDansSonÉtatDeDépart) {
-  Séance s;
-  s.dossier.Écrit("Scores", "-3\r\n0\r\n4\r\n0\r\n");
   std::filesystem::current_path(std::filesystem::temp_directory_path());
-  s.t.Form_Load();
-  ASSERT_FALSE(s.t.DémarrageRefusé);
+  Partie s(1, "-3\r\n0\r\n4\r\n0\r\n");
   EXPECT_EQ(std::filesystem::current_path(), std::filesystem::path(s.dossier.Chemin()));
   using Page = std::pair<VueWeb, std::string>;
   EXPECT_EQ(s.plateforme.pages,
             (std::vector<Page>{{VueWeb::Pub0Web, "pub0.htm"}, {VueWeb::Pub1Web, "pub1.htm"}}));
-  EXPECT_EQ(s.t.Mode, 1);
-  EXPECT_EQ(s.t.Rangements.size(), 72073u);
-
   const auto &f = s.t.Fenêtre;
-  EXPECT_TRUE(f.NouveauJeu.Enabled && f.Arrêt.Enabled && !f.Joue.Visible && !f.NomsJoueursSS.Visible);
-  EXPECT_TRUE(!f.TempsTimer.Enabled && f.EtoilesTimer.Enabled && f.NonConnectéTimer.Enabled);
-  EXPECT_EQ(f.ScoreLabel[0].ForeColor, 255u) << "a negative score shows red before any deal";
-  EXPECT_EQ(f.ScoreLabel[0].Caption, "-3");
+  EXPECT_TRUE(f.NouveauJeu.Enabled && f.Arrêt.Enabled && !f.Joue.Visible && f.EtoilesTimer.Enabled);
+  EXPECT_TRUE(f.ScoreLabel[0].Caption == "-3" && f.ScoreLabel[0].ForeColor == 255u)
+      << "a negative score shows red before any deal";
   EXPECT_EQ(f.ScoreLabel[2].ForeColor, 0u);
   for (int i = 1; i <= 50; ++i)
     EXPECT_TRUE(s.t.EtoileX[i] < 15360 && s.t.EtoileY[i] < 11520 && s.t.EtoileVitesse[i] >= 2);
-}
-
-// The controls whose place comes out of a formula, against the design.
-TEST(Démarrage, LesContrôlesCalculésSontÀLeurPlace) {
-  PlateformeSansFenêtre p;
-  TroisNiveaux t(p);
-  const auto &f = t.Fenêtre;
-  struct Cas {
-    const Contrôle &c;
-    const char *nom;
-    const Contrôle *parent;
-    int left, top;
-  };
-  for (const Cas &c : {
-           Cas{f.CartesJeu[20], "CartesJeu(20)", &f.SSJoueurFond[1], 720, 1140},
-           Cas{f.EnchèreLabel[5], "EnchèreLabel(5)", &f.SSJoueurFond[1], 1440, 840},
-           Cas{f.NiveauLabel[9], "NiveauLabel(9)", &f.SSPaie[11], 0, 855},
-           Cas{f.LabelPaie[31], "LabelPaie(31)", &f.SSPaie[10], 255, 180},
-           Cas{f.TotalLabel[0], "TotalLabel(0)", &f.SSJoueur[0], 3120, 3780},
-       }) {
-    EXPECT_EQ(c.c.Nom, c.nom);
-    EXPECT_EQ(c.c.Parent, c.parent) << c.nom;
-    EXPECT_EQ(std::make_pair(c.c.Left, c.c.Top), std::make_pair(c.left, c.top)) << c.nom;
-  }
-  for (int c = 0; c <= 52; ++c)
-    EXPECT_EQ(f.CartesJeu[c].MousePointer, c >= 39 && c <= 51 ? FlècheHaut : 0) << c;
 }
 
 TEST(Aléatoire, UneRéensemenceIdentiqueNeRépètePasLeTirage) {

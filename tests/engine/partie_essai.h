@@ -19,7 +19,8 @@ inline const std::vector<std::vector<int>> DonneDeRéférence = {
     {22, 3, 36, 10, 0, 8, 9, 27, 49, 47, 48, 35, 39},
     {32, 23, 6, 34, 5, 46, 41, 20, 50, 37, 45, 16, 29},
     {11, 7, 21, 42, 12, 40, 51, 30, 28, 15, 31, 44, 18}};
-inline const std::vector<int> DispositionDeRéférence = {18, 44, 31, 15, 28, 30, 51, 40, 12, 42, 21, 7, 11};
+inline const std::vector<int> DispositionDeRéférence = {18, 44, 31, 15, 28, 30, 51,
+                                                        40, 12, 42, 21, 7,  11};
 
 // The bytes of a Tirage file holding these hands.
 inline std::string TexteDeTirage(const std::vector<std::vector<int>> &mains) {
@@ -35,7 +36,9 @@ struct Partie {
   PlateformeSansFenêtre plateforme{dossier.Chemin()};
   TroisNiveaux t{plateforme};
 
-  explicit Partie(uint8_t mode = 1) {
+  explicit Partie(uint8_t mode = 1, const std::string &scores = {}) {
+    if (!scores.empty())
+      dossier.Écrit("Scores", scores);
     t.Form_Load();
     EXPECT_FALSE(t.DémarrageRefusé) << t.ErreurDémarrage;
     if (mode != t.Mode)
@@ -43,7 +46,9 @@ struct Partie {
   }
 
   // The cards that REJOUE deals, seat by seat.
-  void Tirage(const std::vector<std::vector<int>> &mains) const { dossier.Écrit("Tirage", TexteDeTirage(mains)); }
+  void Tirage(const std::vector<std::vector<int>> &mains) const {
+    dossier.Écrit("Tirage", TexteDeTirage(mains));
+  }
 
   // Lays the human's cards out in this order by clicks, as a player would.
   void Dispose(const std::vector<int> &voulu) {

@@ -3,8 +3,11 @@
 
 #include <algorithm>
 #include <numeric>
+#include <sstream>
 #include <vector>
 
+#include "analyse/commande_historique.h"
+#include "files/historique.h"
 #include "partie_essai.h"
 
 namespace {
@@ -18,7 +21,10 @@ constexpr int DonnesAuHasard = 150;
 
 } // namespace
 
-TEST(Partie, LaDonneExperteDeRéférenceSePaieCommePrévu) {
+// The reference deal in EXPERT, then replayed in DEBUTANT on scores near
+// their limits: the scores stop there, the solution view and back pay
+// nothing, and the history gets one line per paid deal and per SCORES A 0.
+TEST(Partie, LaDonneDeRéférenceSePaieCommePrévuEtSeNoteDansLHistorique) {
   Partie p(0);
   p.Tirage(DonneDeRéférence);
   p.plateforme.script = [&](int tour) {
@@ -42,10 +48,49 @@ TEST(Partie, LaDonneExperteDeRéférenceSePaieCommePrévu) {
             "FLUSH,BRELAN,RIEN,CARRE,FULL,1 PAIRE,FULL,2 PAIRES,RIEN,FULL,1 PAIRE,RIEN");
   EXPECT_FALSE(p.t.Fenêtre.VoirOrdi[0].Visible) << "no solution view in EXPERT";
   EXPECT_TRUE(p.dossier.Existe("Temps1") && !p.dossier.Existe("Temps2"));
-  // A replay pays the same cards once more.
+
+  p.dossier.Écrit("Scores", "-2147483646\r\n2147483627\r\n0\r\n-2147483648\r\n");
+  p.t.LitScores();
+  p.t.Mode_MouseUp();
   p.plateforme.tours = 0;
   p.t.Rejoue_MouseUp();
-  EXPECT_EQ(p.dossier.Lit("Scores"), "-10\r\n42\r\n-14\r\n-18\r\n");
+  const std::string bornés = "-2147483648 2147483647 -7 -2147483648";
+  EXPECT_EQ(Partie::Textes(p.t.Fenêtre.ScoreLabel), bornés);
+  EXPECT_EQ(p.dossier.Lit("Scores"), "-2147483648\r\n2147483647\r\n-7\r\n-2147483648\r\n");
+  ASSERT_TRUE(p.t.Fenêtre.VoirOrdi[0].Visible);
+  // The view moves the totals, never the scores, before SCORES A 0 and after.
+  for (const std::string &scores : {bornés, std::string("0 0 0 0")}) {
+    p.t.VoirOrdi_Click(0);
+    p.t.VoirOrdi_Click(1);
+    EXPECT_EQ(Partie::Textes(p.t.Fenêtre.ScoreLabel), scores);
+    EXPECT_EQ(Partie::Textes(p.t.Fenêtre.TotalLabel), "-5 21 -7 -9");
+    p.t.Scoresà0_MouseUp();
+  }
+  EXPECT_EQ(p.dossier.Lit("Scores"), "0\r\n0\r\n0\r\n0\r\n");
+
+  const auto lecture = historique::Lit();
+  ASSERT_EQ(lecture.entrées.size(), 4u) << p.dossier.Lit("Historique");
+  EXPECT_EQ(historique::Ligne(lecture.entrées[0]).substr(19),
+            ";EXPERT;-5;21;-7;-9;-5;21;-7;-9\r\n");
+  EXPECT_EQ(historique::Ligne(lecture.entrées[1]).substr(19),
+            ";DEBUTANT;-5;21;-7;-9;-2147483648;2147483647;-7;-2147483648\r\n");
+  EXPECT_TRUE(lecture.entrées[2].remise && lecture.entrées[3].remise);
+  EXPECT_TRUE(p.plateforme.erreurs.empty());
+  std::ostringstream sortie, erreurs;
+  ASSERT_EQ(CommandeHistorique({"--json"}, sortie, erreurs), 0) << erreurs.str();
+  EXPECT_TRUE(sortie.str().starts_with(
+      "{\"donnes\": 2, \"remises\": 2, \"lignesIgnorées\": 0, \"sièges\": ["));
+  EXPECT_NE(sortie.str().find(
+                "{\"nom\": \"GigaOctets\", \"donnes\": 2, \"moyenne\": 21.00, \"meilleure\": 21, "
+                "\"pire\": 21, \"score\": 0}"),
+            std::string::npos)
+      << sortie.str();
+  std::ostringstream texte;
+  ASSERT_EQ(CommandeHistorique({}, texte, erreurs), 0);
+  EXPECT_NE(texte.str().find("Historique : 2 donnes, 2 remises à zéro"), std::string::npos)
+      << texte.str();
+  EXPECT_EQ(CommandeHistorique({"Absent"}, texte, erreurs), 1);
+  EXPECT_EQ(CommandeHistorique({"--moyenne"}, texte, erreurs), 2);
 }
 
 TEST(Partie, JouerPuisGoPasseParLesÉtatsDeLaTable) {
@@ -72,19 +117,30 @@ TEST(Partie, JouerPuisGoPasseParLesÉtatsDeLaTable) {
   p.t.TempsTimer_Timer();
   p.t.TempsTimer_Timer();
   p.t.Joue_Click();
-  EXPECT_FALSE(f.Joue.Visible || f.Arrêt.Enabled || f.TempsTimer.Enabled || f.CartesJeu[45].Enabled);
+  EXPECT_FALSE(f.Joue.Visible || f.Arrêt.Enabled || f.TempsTimer.Enabled ||
+               f.CartesJeu[45].Enabled);
   EXPECT_TRUE(f.NouveauJeu.Enabled && f.VoirOrdi[0].Visible && f.VoirOrdi[0].Enabled);
   EXPECT_EQ(p.dossier.Lit("Temps2"), "2\r\n");
   EXPECT_EQ(p.SommeDesTotaux(), 0);
 
   // The mode button keeps the solution button; the next deal hides it and
-  // counts down from this one's time.
+  // counts down from this one's time to 0, and the clock stops at its ceiling.
   p.t.Mode_MouseUp();
   p.t.Mode_MouseUp();
   EXPECT_TRUE(f.VoirOrdi[0].Visible);
   p.t.NouveauJeu_MouseUp();
   EXPECT_FALSE(f.VoirOrdi[0].Visible);
-  EXPECT_EQ(f.TempsLabel.Caption, "2");
+  std::string vus = f.TempsLabel.Caption;
+  for (int i = 0; i < 3; ++i) {
+    p.t.TempsTimer_Timer();
+    vus += f.TempsLabel.Caption;
+  }
+  EXPECT_EQ(vus, "2100");
+  p.t.TempsÉcoulé = 32766;
+  p.t.TempsTimer_Timer();
+  p.t.TempsTimer_Timer();
+  p.t.Joue_Click();
+  EXPECT_EQ(p.dossier.Lit("Temps2"), "32767\r\n");
 }
 
 TEST(Partie, StopPendantLeBalayageRendLaTableEtLaisseRejouer) {
@@ -126,26 +182,18 @@ TEST(Partie, StopAprèsLeBalayageLaisseGoEtLeChangementDeModeCherchePourLHumain)
   p.t.Mode_MouseUp(); // DEBUTANT before GO
   p.t.Joue_Click();
   EXPECT_GT(p.t.MeilleurRangement[3], 0) << "the human's cards were searched before valuing";
-  EXPECT_TRUE(f.VoirOrdi[0].Visible && p.dossier.Existe("Temps2"));
-  const std::string fichier = p.dossier.Lit("Scores");
-  const std::vector<int32_t> avant(p.t.Scores, p.t.Scores + 4);
-
-  // The solution view and back leave the scores and the file as they were.
-  // STOP, live again after the names panel, goes off with the view.
+  EXPECT_TRUE(p.dossier.Existe("Temps2"));
+  // STOP, live again after the names panel, goes off with the solution view.
   p.t.NomsJoueurs_MouseUp();
   p.t.AnnuleNoms_MouseUp();
-  ASSERT_TRUE(f.Arrêt.Enabled);
-  p.t.VoirOrdi_Click(0);
-  EXPECT_TRUE(f.VoirOrdi[1].Visible && !f.VoirOrdi[0].Visible);
-  EXPECT_FALSE(f.NouveauJeu.Enabled || f.Arrêt.Enabled || f.Scoresà0.Enabled);
-  for (int k = 0; k <= 12; ++k)
-    EXPECT_EQ(f.CartesJeu[39 + k].Picture, p.t.CartesMontrées[3][k]);
-  EXPECT_EQ(p.SommeDesTotaux(), 0);
-  p.t.VoirOrdi_Click(1);
-  EXPECT_EQ(std::vector<int32_t>(p.t.Scores, p.t.Scores + 4), avant);
-  EXPECT_EQ(p.dossier.Lit("Scores"), fichier);
-  for (int k = 0; k <= 12; ++k)
-    EXPECT_EQ(f.CartesJeu[39 + k].Picture, p.t.CartesMontrées[4][k]);
+  ASSERT_TRUE(f.Arrêt.Enabled && f.VoirOrdi[0].Visible);
+  for (int vue : {0, 1}) {
+    p.t.VoirOrdi_Click(vue);
+    EXPECT_EQ(f.VoirOrdi[1].Visible, vue == 0);
+    EXPECT_FALSE(vue == 0 && (f.NouveauJeu.Enabled || f.Arrêt.Enabled || f.Scoresà0.Enabled));
+    for (int k = 0; k <= 12; ++k)
+      EXPECT_EQ(f.CartesJeu[39 + k].Picture, p.t.CartesMontrées[3 + vue][k]);
+  }
 }
 
 TEST(Partie, ScoresÀZéroAvantEtAprèsLAbattage) {
@@ -162,18 +210,6 @@ TEST(Partie, ScoresÀZéroAvantEtAprèsLAbattage) {
   p.t.Joue_Click();
   EXPECT_EQ(std::vector<int32_t>(p.t.Scores, p.t.Scores + 4), std::vector<int32_t>(4, 0));
   EXPECT_NE(f.TotalLabel[0].Caption, "");
-  EXPECT_EQ(p.dossier.Lit("Scores"), zéros);
-
-  // After a showdown it leaves the result on the table, and from then on the
-  // view moves the totals but never the scores.
-  p.t.NouveauJeu_MouseUp();
-  p.t.Joue_Click();
-  const std::string total = f.TotalLabel[3].Caption;
-  p.t.Scoresà0_MouseUp();
-  p.t.VoirOrdi_Click(0);
-  p.t.VoirOrdi_Click(1);
-  EXPECT_EQ(Partie::Textes(f.ScoreLabel), "0 0 0 0");
-  EXPECT_EQ(f.TotalLabel[3].Caption, total);
   EXPECT_EQ(p.dossier.Lit("Scores"), zéros);
 }
 
@@ -207,36 +243,6 @@ TEST(Partie, LeToutFlushDuDébutantLuiEstReconnuEtLExpertLeGarde) {
   EXPECT_EQ(std::vector<uint8_t>(q.t.Mains[4], q.t.Mains[4] + 13), disposition);
 }
 
-TEST(Partie, UnRejoueSansTirageOuAvecUnTirageAbîméVaJusquAuBout) {
-  for (const char *contenu : {static_cast<const char *>(nullptr), "7\r\nxyz\r\n300\r\n-1\r\n53\r\n255\r\n"}) {
-    Partie p;
-    if (contenu)
-      p.dossier.Écrit("Tirage", contenu);
-    p.t.Rejoue_MouseUp();
-    EXPECT_TRUE(p.t.Fenêtre.NouveauJeu.Enabled && !p.t.Fenêtre.Arrêt.Enabled);
-    EXPECT_EQ(p.SommeDesTotaux(), 0);
-    EXPECT_TRUE(p.plateforme.erreurs.empty());
-  }
-}
-
-TEST(Partie, LHorlogeDécompteJusquÀZéroEtSArrêteAuPlafond) {
-  Partie p;
-  auto &f = p.t.Fenêtre;
-  p.dossier.Écrit("Temps2", "2\r\n");
-  p.t.NouveauJeu_MouseUp();
-  std::string vus = f.TempsLabel.Caption;
-  for (int i = 0; i < 3; ++i) {
-    p.t.TempsTimer_Timer();
-    vus += f.TempsLabel.Caption;
-  }
-  EXPECT_EQ(vus, "2100");
-  p.t.TempsÉcoulé = 32766;
-  p.t.TempsTimer_Timer();
-  p.t.TempsTimer_Timer();
-  p.t.Joue_Click();
-  EXPECT_EQ(p.dossier.Lit("Temps2"), "32767\r\n");
-}
-
 TEST(Partie, SurDesDonnesAuHasardChaqueNiveauSePaieÀSommeNulle) {
   for (uint8_t mode : {1, 0}) {
     Partie p(mode);
@@ -253,12 +259,10 @@ TEST(Partie, SurDesDonnesAuHasardChaqueNiveauSePaieÀSommeNulle) {
       };
       p.t.NouveauJeu_MouseUp();
       p.t.Joue_Click();
-      for (int niveau = 0; niveau < 3; ++niveau) {
-        int somme = 0;
-        for (int i = 0; i < 12; ++i)
-          somme += std::stoi(p.t.Fenêtre.LabelPaie[9 * (i / 3) + 3 * niveau + i % 3].Caption);
-        EXPECT_EQ(somme, 0);
-      }
+      int sommes[3] = {};
+      for (int i = 0; i < 36; ++i)
+        sommes[i % 9 / 3] += std::stoi(p.t.Fenêtre.LabelPaie[i].Caption);
+      EXPECT_TRUE(sommes[0] == 0 && sommes[1] == 0 && sommes[2] == 0);
       EXPECT_EQ(std::accumulate(p.t.Scores, p.t.Scores + 4, 0), 0);
       if (mode == 1) {
         p.t.VoirOrdi_Click(0);
