@@ -40,10 +40,18 @@ void Balayage(benchmark::State &état, void (TroisNiveaux::*balaye)()) {
 }
 
 void BM_BalayageDebutant(benchmark::State &état) { Balayage(état, &TroisNiveaux::OrdiJoue); }
-void BM_BalayageLitteral(benchmark::State &état) { Balayage(état, &TroisNiveaux::OrdiJoueLittéral); }
+void BM_BalayageLitteral(benchmark::State &état) {
+  Balayage(état, &TroisNiveaux::OrdiJoueLittéral);
+}
 
-BENCHMARK(BM_BalayageDebutant)->Unit(benchmark::kMillisecond)->Repetitions(9)->DisplayAggregatesOnly(true);
-BENCHMARK(BM_BalayageLitteral)->Unit(benchmark::kMillisecond)->Repetitions(9)->DisplayAggregatesOnly(true);
+BENCHMARK(BM_BalayageDebutant)
+    ->Unit(benchmark::kMillisecond)
+    ->Repetitions(9)
+    ->DisplayAggregatesOnly(true);
+BENCHMARK(BM_BalayageLitteral)
+    ->Unit(benchmark::kMillisecond)
+    ->Repetitions(9)
+    ->DisplayAggregatesOnly(true);
 
 // Rows kept per seat, and the seat's special flags (F all-flush, Q
 // all-straight, P six pairs, M thirteen ranks), for the fixed deals; each
@@ -54,8 +62,9 @@ bool ImprimeSignature() {
   for (int d = 0; d < NombreDonnesFixes; ++d) {
     std::printf("donne %d :", d);
     for (int j = 0; j < 4; ++j)
-      std::printf(" %5d%s%s%s%s", s.rangées[d][j], s.toutFlush[d][j] ? "F" : "", s.toutQuinte[d][j] ? "Q" : "",
-                  s.sixPaires[d][j] ? "P" : "", s.mégaQuinte[d][j] ? "M" : "");
+      std::printf(" %5d%s%s%s%s", s.rangées[d][j], s.toutFlush[d][j] ? "F" : "",
+                  s.toutQuinte[d][j] ? "Q" : "", s.sixPaires[d][j] ? "P" : "",
+                  s.mégaQuinte[d][j] ? "M" : "");
     std::printf("\n");
   }
   const bool attendue = s.empreinte == EmpreinteAttendue;

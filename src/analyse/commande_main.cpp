@@ -6,19 +6,20 @@
 #include "analyse/session_analyse.h"
 #include "analyse/texte.h"
 
-const char *const AideMain = "Usage : troisniveaux-analyse main [--json] C1 C2 ... C13\n"
-                             "\n"
-                             "Donne le rangement que l'ordinateur jouerait avec ces 13 cartes : les trois\n"
-                             "niveaux, la classe et la valeur de chacun, et la main spéciale s'il y en a une.\n"
-                             "\n"
-                             "Une carte s'écrit par son code, de 0 à 51 (rang = code mod 13, 0 pour le 2\n"
-                             "jusqu'à 12 pour l'as ; couleur = code div 13 : trèfle, carreau, cœur, pique),\n"
-                             "ou comme on la lit : le rang 2 à 10, V, D, R ou A, suivi de la couleur,\n"
-                             "♣ ♦ ♥ ♠ ou T K C P (trèfle, carreau, cœur, pique). Exemples : 10♥, VP, A♠, 0.\n"
-                             "\n"
-                             "  --json   une seule ligne JSON : cartes, MeilleurRangement, MeilleureValeur,\n"
-                             "           disposition, ToutFlush, ToutQuinte, SixPaires, MégaQuinte\n"
-                             "  --help   ce texte\n";
+const char *const AideMain =
+    "Usage : troisniveaux-analyse main [--json] C1 C2 ... C13\n"
+    "\n"
+    "Donne le rangement que l'ordinateur jouerait avec ces 13 cartes : les trois\n"
+    "niveaux, la classe et la valeur de chacun, et la main spéciale s'il y en a une.\n"
+    "\n"
+    "Une carte s'écrit par son code, de 0 à 51 (rang = code mod 13, 0 pour le 2\n"
+    "jusqu'à 12 pour l'as ; couleur = code div 13 : trèfle, carreau, cœur, pique),\n"
+    "ou comme on la lit : le rang 2 à 10, V, D, R ou A, suivi de la couleur,\n"
+    "♣ ♦ ♥ ♠ ou T K C P (trèfle, carreau, cœur, pique). Exemples : 10♥, VP, A♠, 0.\n"
+    "\n"
+    "  --json   une seule ligne JSON : cartes, MeilleurRangement, MeilleureValeur,\n"
+    "           disposition, ToutFlush, ToutQuinte, SixPaires, MégaQuinte\n"
+    "  --help   ce texte\n";
 
 namespace {
 
@@ -36,10 +37,12 @@ template <size_t N> std::string Liste(const std::array<uint8_t, N> &codes, bool 
 
 void ÉcritJson(std::ostream &o, const TroisNiveaux &t, const std::array<uint8_t, 13> &cartes,
                const std::array<uint8_t, 13> &disposition) {
-  o << "{\"cartes\": [" << Liste(cartes, false) << "], \"MeilleurRangement\": " << t.MeilleurRangement[0]
+  o << "{\"cartes\": [" << Liste(cartes, false)
+    << "], \"MeilleurRangement\": " << t.MeilleurRangement[0]
     << ", \"MeilleureValeur\": " << texte::Nombre(t.MeilleureValeur) << ", \"disposition\": ["
     << Liste(disposition, false) << "], \"ToutFlush\": " << Booléen(t.ToutFlush[0])
-    << ", \"ToutQuinte\": " << Booléen(t.ToutQuinte[0]) << ", \"SixPaires\": " << Booléen(t.SixPaires[0])
+    << ", \"ToutQuinte\": " << Booléen(t.ToutQuinte[0])
+    << ", \"SixPaires\": " << Booléen(t.SixPaires[0])
     << ", \"MégaQuinte\": " << Booléen(t.MégaQuinte[0]) << "}\n";
 }
 
@@ -64,22 +67,25 @@ void ÉcritNiveaux(std::ostream &o, TroisNiveaux &t, const std::array<uint8_t, 1
   std::copy(d.begin(), d.begin() + 5, n1.begin());
   std::copy(d.begin() + 5, d.begin() + 10, n2.begin());
   std::copy(d.begin() + 10, d.end(), n3.begin());
-  o << "NIVEAU 1 : " << Liste(n1, true) << "  " << classe1 << ", " << texte::Nombre(t.Valeur1) << "\n";
-  o << "NIVEAU 2 : " << Liste(n2, true) << "  " << classe2 << ", " << texte::Nombre(t.Valeur2) << "\n";
+  o << "NIVEAU 1 : " << Liste(n1, true) << "  " << classe1 << ", " << texte::Nombre(t.Valeur1)
+    << "\n";
+  o << "NIVEAU 2 : " << Liste(n2, true) << "  " << classe2 << ", " << texte::Nombre(t.Valeur2)
+    << "\n";
   o << "NIVEAU 3 : " << Liste(n3, true) << "  ";
   if (toutVu)
     o << (t.ToutFlushVu ? "TOUT FLUSH" : "") << (t.ToutFlushVu && t.ToutQuinteVu ? ", " : "")
       << (t.ToutQuinteVu ? "TOUT QUINTE" : "") << "\n";
   else
     o << texte::ClasseTrois(t) << ", " << texte::Nombre(t.Valeur3) << "\n";
-  o << "Rangement " << t.MeilleurRangement[0] << " sur " << NombreRangements << ", valeur " << texte::Nombre(meilleure)
-    << "\n";
+  o << "Rangement " << t.MeilleurRangement[0] << " sur " << NombreRangements << ", valeur "
+    << texte::Nombre(meilleure) << "\n";
   o << "Main spéciale : " << (spéciale ? *spéciale : "aucune") << "\n";
 }
 
 } // namespace
 
-int CommandeMain(const std::vector<std::string> &arguments, std::ostream &sortie, std::ostream &erreurs) {
+int CommandeMain(const std::vector<std::string> &arguments, std::ostream &sortie,
+                 std::ostream &erreurs) {
   bool json = false;
   std::vector<uint8_t> codes;
   for (const std::string &a : arguments) {
@@ -104,7 +110,8 @@ int CommandeMain(const std::vector<std::string> &arguments, std::ostream &sortie
     codes.push_back(*code);
   }
   if (codes.size() != 13) {
-    erreurs << "Il faut 13 cartes, " << codes.size() << (codes.size() > 1 ? " sont données" : " est donnée")
+    erreurs << "Il faut 13 cartes, " << codes.size()
+            << (codes.size() > 1 ? " sont données" : " est donnée")
             << ". Voir troisniveaux-analyse main --help.\n";
     return 2;
   }

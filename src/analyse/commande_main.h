@@ -7,7 +7,8 @@
 
 // The arguments after "main". Returns the exit status: 0, or 2 for bad
 // arguments (with a message on `erreurs` and nothing on `sortie`).
-int CommandeMain(const std::vector<std::string> &arguments, std::ostream &sortie, std::ostream &erreurs);
+int CommandeMain(const std::vector<std::string> &arguments, std::ostream &sortie,
+                 std::ostream &erreurs);
 
 // How to call it, in French.
 extern const char *const AideMain;

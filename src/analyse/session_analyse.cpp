@@ -24,8 +24,8 @@ SessionAnalyse::SessionAnalyse()
     : dossierTemporaire(DossierNeuf()),
       // Without a folder of its own the session points at one that does not
       // exist: its files then fail to open, which the engine passes over.
-      plateforme(std::make_unique<PlateformeSansFenêtre>(dossierTemporaire.empty() ? "/nonexistent/troisniveaux"
-                                                                                   : dossierTemporaire.string())),
+      plateforme(std::make_unique<PlateformeSansFenêtre>(
+          dossierTemporaire.empty() ? "/nonexistent/troisniveaux" : dossierTemporaire.string())),
       t(std::make_unique<TroisNiveaux>(*plateforme)) {
   const int16_t bases[8] = {100, 200, 350, 380, 500, 600, 1000, 1500};
   std::copy(bases, bases + 8, t->BaseMain);

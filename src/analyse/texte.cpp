@@ -9,7 +9,8 @@
 namespace texte {
 namespace {
 
-constexpr std::array<const char *, 13> Rangs = {"2", "3", "4", "5", "6", "7", "8", "9", "10", "V", "D", "R", "A"};
+constexpr std::array<const char *, 13> Rangs = {"2", "3",  "4", "5", "6", "7", "8",
+                                                "9", "10", "V", "D", "R", "A"};
 constexpr std::array<const char *, 4> Signes = {"♣", "♦", "♥", "♠"};
 // Outlined signs are taken too: some keyboards only offer those.
 constexpr std::array<const char *, 4> SignesCreux = {"♧", "♢", "♡", "♤"};

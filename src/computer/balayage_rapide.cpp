@@ -18,12 +18,14 @@ uint16_t Masque(const std::array<uint8_t, 13> &rangée, int première, int nombr
 }
 
 uint8_t Portée(const TroisNiveaux &t, double v) {
-  return static_cast<uint8_t>((DansLesQuintes(t, v) ? EnSuite : 0) | (DansLesFlushs(t, v) ? MêmeCouleur : 0));
+  return static_cast<uint8_t>((DansLesQuintes(t, v) ? EnSuite : 0) |
+                              (DansLesFlushs(t, v) ? MêmeCouleur : 0));
 }
 
 } // namespace
 
-std::shared_ptr<const IndexBalayage> ConstruitIndexBalayage(const std::vector<std::array<uint8_t, 13>> &rangements) {
+std::shared_ptr<const IndexBalayage>
+ConstruitIndexBalayage(const std::vector<std::array<uint8_t, 13>> &rangements) {
   if (rangements.size() != NombreRangements + 1)
     return nullptr;
   auto index = std::make_shared<IndexBalayage>();
@@ -58,7 +60,8 @@ std::shared_ptr<const IndexBalayage> ConstruitIndexBalayage(const std::vector<st
   return index;
 }
 
-ValeursDuSiège::ValeursDuSiège(TroisNiveaux &t, const IndexBalayage &index, int siège) : index(index) {
+ValeursDuSiège::ValeursDuSiège(TroisNiveaux &t, const IndexBalayage &index, int siège)
+    : index(index) {
   const uint8_t(&main)[13] = t.Mains[siège];
   for (int k = 0; k < NombreCinq; ++k) {
     uint8_t niveau[5], rangs[5];

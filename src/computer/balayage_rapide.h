@@ -26,7 +26,8 @@ struct IndexBalayage {
 };
 
 // Null if the table is not 72072 layouts of the 13 places.
-std::shared_ptr<const IndexBalayage> ConstruitIndexBalayage(const std::vector<std::array<uint8_t, 13>> &rangements);
+std::shared_ptr<const IndexBalayage>
+ConstruitIndexBalayage(const std::vector<std::array<uint8_t, 13>> &rangements);
 
 // What the row-by-row sweep carries from row to row in the record.
 struct SuiviBalayage {

@@ -132,8 +132,8 @@ public:
   void Décompte3();
 
   // ---- Computer players (computer/) ---------------------------------------
-  void OrdiJoue();          // the sweep as the game runs it
-  void OrdiJoueLittéral();  // the same, row by row: the reference for tests
+  void OrdiJoue();                  // the sweep as the game runs it
+  void OrdiJoueLittéral();          // the same, row by row: the reference for tests
   void ComptePaires(uint8_t siège); // pair count of Mains(siège, ·)
   // One seat's whole sweep in one go: no turn of the event loop, no bar, no
   // STOP test; then its pair count. For GO after a change to DEBUTANT.
@@ -177,11 +177,11 @@ public:
   bool LitScores();
   void ÉcritNoms(const std::string (&noms)[4]);
   void ÉcritScores();
-  void LitTempsDuMode();   // last step of Init
+  void LitTempsDuMode(); // last step of Init
   // End of a showdown; a replay passes over a failure silently.
   void ÉcritTempsDuMode(bool signaleÉchec = true);
   void ÉcritTirage();
-  void LitTirage();        // Rejoue_MouseUp, every failure passed over
+  void LitTirage(); // Rejoue_MouseUp, every failure passed over
   // Removes what a write cut short by a crash left beside the data files.
   void NettoieFichiersTemporaires();
 

@@ -52,6 +52,6 @@ void format::NettoieRestes(const std::string &dossier, const std::vector<std::st
 }
 
 void TroisNiveaux::NettoieFichiersTemporaires() {
-  format::NettoieRestes(".", {"Noms", "Scores", "Temps1", "Temps2", "Tirage",
-                              historique::NomDuFichier});
+  format::NettoieRestes(".",
+                        {"Noms", "Scores", "Temps1", "Temps2", "Tirage", historique::NomDuFichier});
 }

@@ -88,8 +88,8 @@ std::optional<int> LitOptions(int &argc, char **argv, Options &o) {
     else if (a == "--mesures")
       o.mesures = true;
     else if (a == "--mesure-jeux")
-      o.mesureJeux = i + 1 < argc && argv[i + 1][0] != '-' ? QString::fromLocal8Bit(argv[++i])
-                                                            : QString();
+      o.mesureJeux =
+          i + 1 < argc && argv[i + 1][0] != '-' ? QString::fromLocal8Bit(argv[++i]) : QString();
     else if (a == "--joue-auto")
       o.joueAuto = true;
     else if (a == "--presse-apres")
@@ -138,8 +138,8 @@ struct Sonde {
 
 void Sauve(QWidget &fenêtre, const QString &fichier) {
   const bool réussi = fenêtre.grab().save(fichier);
-  std::fprintf(stderr, "%s %s\n", réussi ? "Capture :" : "Capture impossible :",
-               fichier.toLocal8Bit().constData());
+  std::fprintf(stderr, "%s %s\n",
+               réussi ? "Capture :" : "Capture impossible :", fichier.toLocal8Bit().constData());
   QCoreApplication::exit(réussi ? 0 : 1);
 }
 
@@ -172,7 +172,8 @@ void Capture(Partie &partie, const QString &fichier) {
     PoseCommeLOrdinateur(partie.fenêtre, t);
     partie.fenêtre.Événement([&t] { t.Joue_Click(); });
     partie.plateforme.duréeParSiège = durée;
-    QTimer::singleShot(1500, &partie.fenêtre, [&partie, fichier] { Sauve(partie.fenêtre, fichier); });
+    QTimer::singleShot(1500, &partie.fenêtre,
+                       [&partie, fichier] { Sauve(partie.fenêtre, fichier); });
   });
 }
 

@@ -28,7 +28,7 @@ void TroisNiveaux::RestaureRésolution() {
 // Which of the four values are asked for decides the case; a mix that is no
 // case sends the record as the last call left it.
 void TroisNiveaux::ChangeRésolution(const int16_t &largeur, const int16_t &hauteur,
-                                     const int16_t &couleurs, const int16_t &fréquence) {
+                                    const int16_t &couleurs, const int16_t &fréquence) {
   const bool l = largeur != 0, h = hauteur != 0, c = couleurs != 0, f = fréquence != 0;
   auto &e = EnregistrementÉcran;
   if (!l && !h && !c && !f)

@@ -18,7 +18,7 @@ public:
   std::function<void(int tour)> script;
   int tours = 0;
 
-  float horloge = 0;           // seconds since midnight; a test moves it or not
+  float horloge = 0; // seconds since midnight; a test moves it or not
   EnregistrementAffichage écran{1024, 768, 32, 60, 0};
   std::vector<EnregistrementAffichage> changements; // every mode change asked for
   bool accordRésolution = true;
@@ -50,6 +50,8 @@ public:
     return accordRésolution;
   }
   bool EstConnecté() override { return connecté; }
-  void Navigue(VueWeb vue, const std::string &adresse) override { pages.emplace_back(vue, adresse); }
+  void Navigue(VueWeb vue, const std::string &adresse) override {
+    pages.emplace_back(vue, adresse);
+  }
   void SignaleErreur(const std::string &message) override { erreurs.push_back(message); }
 };

@@ -74,17 +74,17 @@ Contrôles::Contrôles() {
 
   // ---- Seats
   for (int s = 0; s <= 3; ++s) {
-    Panneau(SSJoueur[s], Indice("SSJoueur", s), nullptr, PanneauxSièges[s][0],
-            PanneauxSièges[s][1], 3945, 4155, CouleurSiège[s]);
+    Panneau(SSJoueur[s], Indice("SSJoueur", s), nullptr, PanneauxSièges[s][0], PanneauxSièges[s][1],
+            3945, 4155, CouleurSiège[s]);
     Étiquette(JoueursLabel[s], Indice("JoueursLabel", s), &SSJoueur[s], 0, 0, 0, 330,
               CouleurSystèmeTexte, CouleurSiège[s], Arial(14.25));
     JoueursLabel[s].AjusteAuTexte = true;
-    Étiquette(ExtraLabel[s], Indice("ExtraLabel", s), &SSJoueur[s], 2160, 60, 1695, 255,
-              0x0000FF, CouleurSiège[s], Arial(12), Alignement::Centre);
+    Étiquette(ExtraLabel[s], Indice("ExtraLabel", s), &SSJoueur[s], 2160, 60, 1695, 255, 0x0000FF,
+              CouleurSiège[s], Arial(12), Alignement::Centre);
     Étiquette(ScoreLabel[s], Indice("ScoreLabel", s), &SSJoueur[s], 120, 3780, 930, 330, 0,
               CouleurSiège[s], Arial(14.25));
-    Étiquette(TotalLabel[s], Indice("TotalLabel", s), &SSJoueur[s], s == 0 ? 3120 : 3135, 3780,
-              525, 285, 0, CouleurSiège[s], Arial(14.25), Alignement::Centre);
+    Étiquette(TotalLabel[s], Indice("TotalLabel", s), &SSJoueur[s], s == 0 ? 3120 : 3135, 3780, 525,
+              285, 0, CouleurSiège[s], Arial(14.25), Alignement::Centre);
     Panneau(SSJoueurFond[s], Indice("SSJoueurFond", s), &SSJoueur[s], 75, 360, 3765, 3420,
             CouleurSiège[s]);
 
@@ -115,18 +115,17 @@ Contrôles::Contrôles() {
 
       const int enchèreLeft[3] = {1800, 1800, 1440}, enchèreTop[3] = {3120, 1980, 840};
       Contrôle &enchère = EnchèreLabel[p];
-      Étiquette(enchère, Indice("EnchèreLabel", p), &SSJoueurFond[s], enchèreLeft[r],
-                enchèreTop[r], 990, 300, 0x00FFFF, CouleurSiègeSombre[s], Arial(9.75),
-                Alignement::Centre);
+      Étiquette(enchère, Indice("EnchèreLabel", p), &SSJoueurFond[s], enchèreLeft[r], enchèreTop[r],
+                990, 300, 0x00FFFF, CouleurSiègeSombre[s], Arial(9.75), Alignement::Centre);
       enchère.Bordure = true;
       enchère.Visible = false;
 
       for (int j = 0; j <= 2; ++j) {
         const int adversaire = j < s ? j : j + 1;
         const int i = 3 * p + j;
-        Étiquette(LabelPaie[i], Indice("LabelPaie", i), &SSPaie[p],
-                  PositionPaie[s][adversaire][0], PositionPaie[s][adversaire][1], 435, 315, 0,
-                  CouleurSiège[adversaire], Arial(12), Alignement::Centre);
+        Étiquette(LabelPaie[i], Indice("LabelPaie", i), &SSPaie[p], PositionPaie[s][adversaire][0],
+                  PositionPaie[s][adversaire][1], 435, 315, 0, CouleurSiège[adversaire], Arial(12),
+                  Alignement::Centre);
         LabelPaie[i].Bordure = true;
       }
     }
@@ -227,9 +226,9 @@ Contrôles::Contrôles() {
   NonConnectéTimer = {true, 20000};
 
   const Contrôle *empilement[NombrePanneauxHaut] = {
-      &NomsJoueursSS, &SSJoueur[3], &RèglesText, &MenuSS,      &Pub0Pic,
-      &Pub1Pic,       &NonConnectéPic, &SSImage,  &SSJoueur[1], &TempsSS,
-      &SSCartes,      &SSJoueur[2], &SSJoueur[0]};
+      &NomsJoueursSS, &SSJoueur[3],    &RèglesText, &MenuSS,      &Pub0Pic,
+      &Pub1Pic,       &NonConnectéPic, &SSImage,    &SSJoueur[1], &TempsSS,
+      &SSCartes,      &SSJoueur[2],    &SSJoueur[0]};
   for (int i = 0; i < NombrePanneauxHaut; ++i)
     Empilement[i] = empilement[i];
 }

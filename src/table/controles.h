@@ -26,7 +26,7 @@ struct Police {
 };
 
 struct Contrôle {
-  std::string Nom;        // as in the game's design, "CartesJeu(17)"
+  std::string Nom; // as in the game's design, "CartesJeu(17)"
   Genre genre = Genre::Panneau;
   const Contrôle *Parent = nullptr; // null: the window itself
   int Left = 0, Top = 0, Width = 0, Height = 0;
@@ -34,10 +34,10 @@ struct Contrôle {
   bool Enabled = true;
   uint32_t BackColor = 0;
   uint32_t ForeColor = 0;
-  std::string Caption;    // UTF-8
-  std::string Text;       // text boxes only
+  std::string Caption; // UTF-8
+  std::string Text;    // text boxes only
   int16_t MousePointer = 0;
-  int Picture = -1;       // images: index into the card pictures, -1 none
+  int Picture = -1; // images: index into the card pictures, -1 none
   Police police;
   Alignement alignement = Alignement::Gauche;
   bool AjusteAuTexte = false; // the label's width follows its text
@@ -52,7 +52,7 @@ struct Minuterie {
 
 // Pictures that image controls can show besides the 55 card pictures.
 enum ImageBouton : int {
-  ImageCartes = 0,          // 0..54: the card pictures by code, 54 the back
+  ImageCartes = 0, // 0..54: the card pictures by code, 54 the back
   ImageTitre = 100,
   ImageOrdinateur = 101,
   ImageLivre = 102,

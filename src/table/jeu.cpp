@@ -53,7 +53,8 @@ void TroisNiveaux::Mode_MouseUp() {
   Mode = Mode == 1 ? 0 : 1;
   const bool expert = Mode == 0;
   f.Mode.BackColor = f.TempsFondSS.BackColor = expert ? 0x0080FF : 0x80C0FF;
-  f.Mode.Caption = expert ? QT_TRANSLATE_NOOP("Table", "EXPERT") : QT_TRANSLATE_NOOP("Table", "DEBUTANT");
+  f.Mode.Caption =
+      expert ? QT_TRANSLATE_NOOP("Table", "EXPERT") : QT_TRANSLATE_NOOP("Table", "DEBUTANT");
   f.TempsSS.Left = expert ? 4470 : 4020;
   f.TempsSS.Width = expert ? 3075 : 3975;
   f.TempsFondSS.Width = expert ? 3000 : 3900;

@@ -126,7 +126,8 @@ void ClasseCinq(TroisNiveaux &t, const uint8_t (&niveau)[5], uint8_t (&rangs)[5]
   TrieRangs(rangs);
 
   bool quinte =
-      (rangs[1] == rangs[0] + 1 && rangs[2] == rangs[0] + 2 && rangs[3] == rangs[0] + 3 && rangs[4] == rangs[0] + 4) ||
+      (rangs[1] == rangs[0] + 1 && rangs[2] == rangs[0] + 2 && rangs[3] == rangs[0] + 3 &&
+       rangs[4] == rangs[0] + 4) ||
       (rangs[0] == 0 && rangs[1] == 1 && rangs[2] == 2 && rangs[3] == 3 && rangs[4] == 12);
   const bool qf = flush && quinte;
   if (qf)
@@ -211,8 +212,8 @@ void ClasseTrois(TroisNiveaux &t, const uint8_t (&niveau)[3], uint8_t (&rangs)[3
   for (int j = 0; j < 3; ++j)
     rangs[j] = niveau[j] % 13;
   TrieRangs(rangs);
-  t.EstQuinte =
-      (rangs[1] == rangs[0] + 1 && rangs[2] == rangs[0] + 2) || (rangs[0] == 0 && rangs[1] == 1 && rangs[2] == 12);
+  t.EstQuinte = (rangs[1] == rangs[0] + 1 && rangs[2] == rangs[0] + 2) ||
+                (rangs[0] == 0 && rangs[1] == 1 && rangs[2] == 12);
 }
 
 } // namespace classement

@@ -9,15 +9,19 @@ namespace {
 
 // Index 3 is the human's own layout in EXPERT; in DEBUTANT it is the
 // computer's solution for the human's cards and index 4 is the layout.
-bool DispositionDuJoueur(const TroisNiveaux &t, int indice) { return t.Mode == 0 ? indice >= 3 : indice >= 4; }
+bool DispositionDuJoueur(const TroisNiveaux &t, int indice) {
+  return t.Mode == 0 ? indice >= 3 : indice >= 4;
+}
 
 int DernierIndice(const TroisNiveaux &t) { return t.Mode == 0 ? 3 : 4; }
 
-template <size_t N> void PrendNiveau(const TroisNiveaux &t, int indice, int première, uint8_t (&niveau)[N]) {
+template <size_t N>
+void PrendNiveau(const TroisNiveaux &t, int indice, int première, uint8_t (&niveau)[N]) {
   for (size_t j = 0; j < N; ++j) {
     const int place = première + static_cast<int>(j);
-    niveau[j] = DispositionDuJoueur(t, indice) ? t.Mains[4][place]
-                                               : t.Mains[indice][t.Rangements[t.MeilleurRangement[indice]][place]];
+    niveau[j] = DispositionDuJoueur(t, indice)
+                    ? t.Mains[4][place]
+                    : t.Mains[indice][t.Rangements[t.MeilleurRangement[indice]][place]];
   }
 }
 
@@ -55,11 +59,13 @@ void TroisNiveaux::Décompte3() {
       ValeursNiveau3[j] = static_cast<float>(BaseMain[2] + RangHaut);
     // Only index 3 is looked at for the special hands: the computer seats
     // had theirs settled in the sweep, the layout of index 4 is not tested.
-    if (j == 3 && EstQuinte && DansLesQuintes(*this, ValeursNiveau1[3]) && DansLesQuintes(*this, ValeursNiveau2[3])) {
+    if (j == 3 && EstQuinte && DansLesQuintes(*this, ValeursNiveau1[3]) &&
+        DansLesQuintes(*this, ValeursNiveau2[3])) {
       ToutQuinteVu = true;
       ToutQuinte[3] = true;
     }
-    if (j == 3 && EstFlush && DansLesFlushs(*this, ValeursNiveau1[3]) && DansLesFlushs(*this, ValeursNiveau2[3])) {
+    if (j == 3 && EstFlush && DansLesFlushs(*this, ValeursNiveau1[3]) &&
+        DansLesFlushs(*this, ValeursNiveau2[3])) {
       ToutFlushVu = true;
       ToutFlush[3] = true;
     }

@@ -26,8 +26,8 @@ public:
 
   void TourDeBalayage(int siège, int groupe) override {
     if (table)
-      relevé.push_back({siège, groupe, table->Fenêtre.TempsShape.Left, table->Fenêtre.TempsShape.BackColor,
-                        table->MeilleurRangement[siège]});
+      relevé.push_back({siège, groupe, table->Fenêtre.TempsShape.Left,
+                        table->Fenêtre.TempsShape.BackColor, table->MeilleurRangement[siège]});
     TourDeBoucle();
   }
 };

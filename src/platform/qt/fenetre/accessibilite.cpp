@@ -15,12 +15,12 @@
 
 QString NomDeCarte(int code) {
   static const char *const rangs[13] = {
-      QT_TRANSLATE_NOOP("Accessibilite", "deux"),  QT_TRANSLATE_NOOP("Accessibilite", "trois"),
+      QT_TRANSLATE_NOOP("Accessibilite", "deux"),   QT_TRANSLATE_NOOP("Accessibilite", "trois"),
       QT_TRANSLATE_NOOP("Accessibilite", "quatre"), QT_TRANSLATE_NOOP("Accessibilite", "cinq"),
-      QT_TRANSLATE_NOOP("Accessibilite", "six"),   QT_TRANSLATE_NOOP("Accessibilite", "sept"),
-      QT_TRANSLATE_NOOP("Accessibilite", "huit"),  QT_TRANSLATE_NOOP("Accessibilite", "neuf"),
-      QT_TRANSLATE_NOOP("Accessibilite", "dix"),   QT_TRANSLATE_NOOP("Accessibilite", "valet"),
-      QT_TRANSLATE_NOOP("Accessibilite", "dame"),  QT_TRANSLATE_NOOP("Accessibilite", "roi"),
+      QT_TRANSLATE_NOOP("Accessibilite", "six"),    QT_TRANSLATE_NOOP("Accessibilite", "sept"),
+      QT_TRANSLATE_NOOP("Accessibilite", "huit"),   QT_TRANSLATE_NOOP("Accessibilite", "neuf"),
+      QT_TRANSLATE_NOOP("Accessibilite", "dix"),    QT_TRANSLATE_NOOP("Accessibilite", "valet"),
+      QT_TRANSLATE_NOOP("Accessibilite", "dame"),   QT_TRANSLATE_NOOP("Accessibilite", "roi"),
       QT_TRANSLATE_NOOP("Accessibilite", "as")};
   static const char *const couleurs[4] = {
       QT_TRANSLATE_NOOP("Accessibilite", "trèfle"), QT_TRANSLATE_NOOP("Accessibilite", "carreau"),

@@ -12,15 +12,15 @@
 
 #include "core/table_state.h"
 #include "platform/qt/bureau/affichage.h"
-#include "platform/qt/fenetre/accessibilite.h"
-#include "platform/qt/jeux/choix_du_jeu.h"
-#include "platform/qt/fenetre/clavier.h"
-#include "platform/qt/fenetre/fond_etoile.h"
-#include "platform/qt/panneaux/panneau_historique.h"
-#include "platform/qt/fenetre/plateforme_qt.h"
 #include "platform/qt/bureau/langue.h"
 #include "platform/qt/bureau/reglages.h"
+#include "platform/qt/fenetre/accessibilite.h"
+#include "platform/qt/fenetre/clavier.h"
+#include "platform/qt/fenetre/fond_etoile.h"
+#include "platform/qt/fenetre/plateforme_qt.h"
 #include "platform/qt/fenetre/vue_controle.h"
+#include "platform/qt/jeux/choix_du_jeu.h"
+#include "platform/qt/panneaux/panneau_historique.h"
 
 FenêtreTable::FenêtreTable(TroisNiveaux &table, PlateformeQt &plateforme)
     : t(table), plateforme(plateforme) {
@@ -330,8 +330,8 @@ constexpr qint64 TicksParSeconde = 64, TicksParImage = 5;
 
 void FenêtreTable::SuitLesÉtoiles() {
   const QWindow *w = windowHandle();
-  const bool enMarche = !fermé && t.Fenêtre.EtoilesTimer.Enabled && isVisible() &&
-                        !isMinimized() && w && w->isExposed();
+  const bool enMarche = !fermé && t.Fenêtre.EtoilesTimer.Enabled && isVisible() && !isMinimized() &&
+                        w && w->isExposed();
   if (enMarche == horlogeÉtoiles.isValid())
     return;
   if (enMarche) {

@@ -80,10 +80,19 @@ QPainterPath Couleur(int couleur, qreal x, qreal y, qreal t) {
 }
 
 // The court cards' letters are those of the language spoken.
-const char *const Rangs[13] = {
-    "2", "3", "4", "5", "6", "7", "8", "9", "10", QT_TRANSLATE_NOOP("Cartes", "V"),
-    QT_TRANSLATE_NOOP("Cartes", "D"), QT_TRANSLATE_NOOP("Cartes", "R"),
-    QT_TRANSLATE_NOOP("Cartes", "A")};
+const char *const Rangs[13] = {"2",
+                               "3",
+                               "4",
+                               "5",
+                               "6",
+                               "7",
+                               "8",
+                               "9",
+                               "10",
+                               QT_TRANSLATE_NOOP("Cartes", "V"),
+                               QT_TRANSLATE_NOOP("Cartes", "D"),
+                               QT_TRANSLATE_NOOP("Cartes", "R"),
+                               QT_TRANSLATE_NOOP("Cartes", "A")};
 
 // Where the pips of ranks 2..10 stand, in a 3 x 7 grid of the card's middle.
 const std::vector<QPointF> &Pips(int rang) {

@@ -24,7 +24,8 @@ std::optional<int> Partie::Démarre() {
     if (table.ErreurDémarrage.empty())
       return 0; // the player refused the change of display mode
     if (QGuiApplication::platformName() != "offscreen")
-      QMessageBox::critical(nullptr, "TroisNiveaux", TraduitMessage(QString::fromStdString(table.ErreurDémarrage)));
+      QMessageBox::critical(nullptr, "TroisNiveaux",
+                            TraduitMessage(QString::fromStdString(table.ErreurDémarrage)));
     return 1;
   }
   fenêtre.Synchronise();

@@ -10,11 +10,11 @@
 
 #include "core/table_state.h"
 #include "platform/qt/bureau/affichage.h"
-#include "platform/qt/bureau/messages.h"
-#include "platform/qt/panneaux/dialogue_resolution.h"
 #include "platform/qt/bureau/dossier_donnees.h"
-#include "platform/qt/panneaux/pages_web.h"
+#include "platform/qt/bureau/messages.h"
 #include "platform/qt/bureau/reseau.h"
+#include "platform/qt/panneaux/dialogue_resolution.h"
+#include "platform/qt/panneaux/pages_web.h"
 
 PlateformeQt::PlateformeQt() { depuisDernierTour.start(); }
 PlateformeQt::~PlateformeQt() = default;

@@ -1,11 +1,12 @@
 #include "platform/qt/jeux/jeux_de_cartes.h"
 
-#include "platform/qt/fenetre/images.h"
+#include "files/format.h"
 #include "platform/qt/bureau/langue.h"
 #include "platform/qt/bureau/reglages.h"
-#include "files/format.h"
+#include "platform/qt/fenetre/images.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QGuiApplication>
@@ -14,18 +15,17 @@
 #include <QStandardPaths>
 #include <QSvgRenderer>
 #include <QThread>
-#include <QDeadlineTimer>
 #include <QThreadPool>
 #include <algorithm>
 #include <atomic>
 #include <cmath>
+#include <condition_variable>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <mutex>
 #include <sys/stat.h>
 #include <zlib.h>
-#include <condition_variable>
-#include <mutex>
 #ifdef __GLIBC__
 #include <malloc.h>
 #endif
@@ -322,9 +322,8 @@ std::optional<std::vector<QImage>> RendSurLesCœurs(const QString &fichier, QSiz
     Aides().start([travaille, partage] { travaille(partage); });
   travaille(partage);
   std::unique_lock garde(partage->verrou);
-  partage->fait.wait(garde, [&] {
-    return partage->échec || partage->reçues == 55 || partage->finis == fils;
-  });
+  partage->fait.wait(
+      garde, [&] { return partage->échec || partage->reçues == 55 || partage->finis == fils; });
   if (partage->échec || partage->reçues < 55)
     return std::nullopt;
   return std::move(partage->images);

@@ -6,8 +6,8 @@
 // stays the default and stands in wherever a deck has no picture.
 
 #include <QImage>
-#include <QPixmap>
 #include <QMap>
+#include <QPixmap>
 #include <QSize>
 #include <QString>
 #include <QStringList>
@@ -17,10 +17,10 @@
 #include <vector>
 
 struct JeuDeCartes {
-  QString id;      // the folder's name, e.g. "svg-oxygen": what the settings keep
-  QString nom;     // the name to show, in French where the deck has one
+  QString id;                  // the folder's name, e.g. "svg-oxygen": what the settings keep
+  QString nom;                 // the name to show, in French where the deck has one
   QMap<QString, QString> noms; // Name[xx] by language xx, "" for Name
-  QString fichier; // the SVG or SVGZ file
+  QString fichier;             // the SVG or SVGZ file
 };
 
 // The SVG element of a picture of the game (0..51 by card code, 52 and 53

@@ -58,10 +58,10 @@ public:
                            .arg(c));
       return b;
     };
-    connect(bouton(QT_TRANSLATE_NOOP("Resolution", "Je suis d'accord"), 165, 0xC0FFC0), &QPushButton::clicked, this,
-            &QDialog::accept);
-    connect(bouton(QT_TRANSLATE_NOOP("Resolution", "Je ne suis pas d'accord"), 16, 0xC0C0FF), &QPushButton::clicked, this,
-            &QDialog::reject);
+    connect(bouton(QT_TRANSLATE_NOOP("Resolution", "Je suis d'accord"), 165, 0xC0FFC0),
+            &QPushButton::clicked, this, &QDialog::accept);
+    connect(bouton(QT_TRANSLATE_NOOP("Resolution", "Je ne suis pas d'accord"), 16, 0xC0C0FF),
+            &QPushButton::clicked, this, &QDialog::reject);
   }
 
 protected:
