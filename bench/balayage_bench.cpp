@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 // The computer's sweep, full DEBUTANT table (4 seats x 72072 rows), as the
 // game runs it and row by row, side by side. Before the timings the program
 // prints the rows kept for a fixed list of deals: that signature must never

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // The rows the computer's sweep keeps for a fixed list of deals, and their
 // fingerprint: the benchmark prints it, a test holds it. It must never

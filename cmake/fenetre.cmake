@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 # The game: the Qt window over the engine.
 find_package(Qt6 REQUIRED COMPONENTS Widgets Svg)
 file(GLOB FENETRE_SOURCES CONFIGURE_DEPENDS src/platform/qt/*/*.cpp)

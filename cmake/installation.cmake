@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 # Installing the game for every user of a machine (the Debian package in
 # debian/ goes through these rules too). The game finds its installed files
 # from its own folder, so the binaries may go anywhere (CMAKE_INSTALL_BINDIR).

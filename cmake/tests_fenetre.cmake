@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 # Tests in the real window (offscreen when there is no display).
 find_package(Qt6 REQUIRED COMPONENTS Test)
 file(GLOB TESTS_FENETRE CONFIGURE_DEPENDS tests/window/*.cpp)

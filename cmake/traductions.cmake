@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 # The game in other languages than its own French: one Qt Linguist file a
 # language in i18n/, compiled at every build into traductions/ beside the
 # program and installed in the data folder, where the game looks for them.

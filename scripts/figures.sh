@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 # Prints the game's figures as a table, each on its own virtual X screen
 # (Xvfb, no window manager): time to the first painted frame, an idle
 # table's CPU and wake-ups (context switches of all its threads) at

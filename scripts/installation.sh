@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 # Checks the game as a distribution would ship it, from a build configured
 # for /usr (default: build/): installs it under a temporary DESTDIR, checks
 # the desktop entry and AppStream data, starts the installed game with an

@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 # Installs what is missing, builds, and starts the game.
 set -euo pipefail
 racine=$(cd "$(dirname "$0")/.." && pwd)

@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 # Installs the Debian packages that are missing, then configures and builds
 # in build/ (or $1). Safe to run again: nothing up to date is redone. The
 # package lists are scripts/paquets.txt, and the files named in

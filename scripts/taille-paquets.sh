@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 # Prints how many Debian packages, and how many megabytes once installed,
 # the package lists given (default: scripts/paquets.txt, what the play
 # command installs) bring onto a minimal Debian 12 system. The minimal

@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 # The opt-in build with Qt WebEngine (full web pages in the two panels):
 # installs the engine's development package, builds, and runs the window
 # tests and a whole game in build-web/.

@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 # Installs what is missing, builds with warnings as errors and runs every
 # test, the window tests once more on a virtual X screen and some on a
 # Wayland compositor; checks the game as installed for every user and as a

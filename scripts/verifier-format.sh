@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 # Checks that every tracked C++ source keeps to the project's .clang-format;
 # prints the files that do not and fails. To mend them:
 #   git ls-files '*.cpp' '*.h' | xargs clang-format -i

@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 # A deal played by a screen reader's means alone: the game on a virtual X
 # screen, on a private session bus with its own accessibility bus, driven by
 # tests/lecteur/partie.py. The game runs from a copy in a temporary folder,

@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 # The game on a real Wayland compositor (weston, headless), through Qt's own
 # Wayland plugin and no X server: the window tests that open a table, deal,
 # fit the window and quit run there, then the game itself starts and stands

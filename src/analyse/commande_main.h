@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // `troisniveaux-analyse main`: the layout the computer plays for 13 cards.
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 // `troisniveaux-analyse donne`: one deal of a Tirage file played through the
 // game's own handlers, as a replay, in a session of its own.
 #include <stdlib.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 // Command-line analysis of a hand or a deal, with the game's own engine.
 #include <iostream>
 #include <string>

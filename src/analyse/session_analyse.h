@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // A session of the engine for the command line: no window, no pacing, and
 // its data files in a fresh temporary folder, removed at the end, so that

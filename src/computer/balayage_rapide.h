@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // The game's sweep, fast. A level's value depends only on which of the
 // seat's 13 places it holds, and there are only 1287 sets of five places and

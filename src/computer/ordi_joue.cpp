@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 // The computer's play: every arrangement of a seat's cards is valued and the
 // best kept, while the human lays out cards during the sweep's turns.
 #include "computer/balayage.h"

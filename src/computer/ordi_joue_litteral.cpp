@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 // The sweep row by row, the three valuations called at every row. Slow but
 // plain: the game's sweep must give exactly what this one gives.
 #include <cmath>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // The game's random generator: uniform reals in [0, 1). A reseed from the
 // clock only perturbs the state, so reseeding twice with the same clock value

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // The table state: the one record of the game, and the procedures that work
 // on it. Most procedures take no arguments and return nothing: they find what

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // The byte format of the data files: one value a line, CR LF after each,
 // numbers in plain decimal, names between double quotes in Windows-1252.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // The history of the scores: one line per deal whose showdown wrote Scores,
 // one per SCORES A 0, kept in the data folder beside the five files. The

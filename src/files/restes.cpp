@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 // What a write cut short leaves behind. A data file is replaced through a
 // temporary file beside it, named after it with a dot and six random letters
 // ("Scores.kQbTzA"); a crash between its creation and the rename leaves it

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 // troisniveaux-mesures: the game as a player starts it, steered from the
 // command line for the figures and the README's screenshots. Built beside the
 // game, never installed: nothing a player runs can be steered this way.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // What the game asks of the machine it runs on. The engine sees only this
 // interface: the Qt window implements it for play, the headless one for tests

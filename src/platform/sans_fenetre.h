@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // The platform without a window, for tests and the command-line tool. Its
 // turns of the event loop run a script, so a test can press STOP or move a

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // The stages of one showdown, in the order AfficheRésultat runs them. They
 // share the values that count in this run; nothing outside the showdown

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // The window as plain data: every control that the game reads or sets, with
 // the properties it uses. Sizes and positions are in twips (15 to a pixel),

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #include "core/table_state.h"
 
 // REJOUE: the last deal again, from the file Tirage. There is no GO: when the

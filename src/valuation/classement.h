@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // What the sweep and the showdown value alike: the class of a level, its keys,
 // and the formulas they share. The two differ only in a few classes, so both

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 // The showdown's values of every seat's levels: the sweep's algorithm, with
 // the side cards of pairs counted and three of a kind ranked.
 #include "core/table_state.h"

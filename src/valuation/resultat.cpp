@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 // The sweep's values of the three working levels.
 #include "core/table_state.h"
 #include "valuation/classement.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 // The showdown on hand-set values and cards, after an EXPERT deal's Init:
 // every seat plays row 1, its cards in the order of its hand.
 #include <gtest/gtest.h>

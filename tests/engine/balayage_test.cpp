@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 // The computer's sweep: marks, ties, pair counts, STOP, the bar. The rows
 // kept for worked hands are checked through the analysis command.
 #include <gtest/gtest.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 // The game's sweep against the row-by-row one: every field the sweep leaves
 // and every turn it gives must be the same, to the bit.
 #include <gtest/gtest.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 // The data files at their limits: folders that take no new file, leftovers
 // of a crash, and whatever else than a regular file lies at their names.
 #include <gtest/gtest.h>

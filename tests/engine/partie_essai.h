@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // A whole session without a window, its files in a temporary folder, for
 // tests that drive the game through its handlers.

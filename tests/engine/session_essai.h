@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // A session ready to value and sweep hands without Form_Load and its files:
 // the table of arrangements, the class bases, and the bar's controls as the

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 // The numbers a level is worth, in the sweep and at the showdown.
 #include <gtest/gtest.h>
 

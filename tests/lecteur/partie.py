@@ -1,4 +1,6 @@
 #!/usr/bin/python3
+# SPDX-License-Identifier: GPL-3.0-or-later
+# SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 """A whole deal played through the accessibility bus, as a screen reader
 would: JOUER, two swaps (one by presses, one by keys), hurry, GO. Every call
 must answer at once, the bar must move, the focus must land on GO and then on

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // Where the data files live, decided once at start. Portable: a `Noms` lies
 // beside the program (a build tree, a copied folder) and every file is read

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // The language the game speaks. French is its own and needs no file; any
 // other is a translation (troisniveaux_xx.qm) in the data folder's

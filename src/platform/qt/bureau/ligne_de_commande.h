@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // The game's command line: --langue, --help and --version, nothing else.
 // Read before the application object exists, so help and version answer

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // The game's messages in the language spoken. The engine writes them in
 // French, composed of a file's name, its path, a line number; here each is

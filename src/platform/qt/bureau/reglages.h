@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // The player's preferences that are not the game's data (window size, card
 // deck): one settings file per user, beside no data file.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // Every way out of the program that can be caught ends the session as
 // QUITTER does, so that a changed display mode is always put back: SIGTERM,

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // What screen readers learn of the table: every control the game paints
 // gives a role and a name through Qt's accessibility interfaces, in the

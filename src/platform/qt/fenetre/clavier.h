@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // The table's keys: one list of keys, each with what it does, read by the
 // window whatever widget holds the keyboard (so no key waits for the window

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // The table on screen: one widget per control of the model, the stars on
 // the background, and every mouse release, click, key and timer tick sent to

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // The game's pictures, drawn by the game itself at the size and device pixel
 // ratio they are shown at, so they stay sharp on any screen.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // The game as a player starts it: the rules over Qt's platform, shown in the
 // table window with its web panels. The game and the measuring program both

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // The platform of the real game: Qt's event loop, the desktop's clock, its
 // display mode, network state and web views.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // One control of the model on screen: it paints itself from a copy of the
 // model's properties, at the window's scale, and sends its releases to the

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // F8 on the table: the next card deck, its name shown a moment over the
 // table, the choice kept for the next session.

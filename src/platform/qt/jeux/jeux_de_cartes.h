@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // Card decks that the desktop ships as SVG (a folder carddecks/svg-*/ with an
 // index.desktop naming the deck and one SVG element per card). The chosen

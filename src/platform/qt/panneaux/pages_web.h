@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // The three web views of the table, each inside its panel widget. They load
 // nothing but the pages of the configured server and the local logo page,

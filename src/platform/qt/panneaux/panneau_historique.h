@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // F9 on the table: a panel over it with the running scores of the last deals
 // drawn as four lines, and each seat's figures, from the history file.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #pragma once
 // A web panel drawn by Qt's own rich-text engine: the game's pages read from
 // disk, or pages fetched from the advert server with Qt Network. Nothing
