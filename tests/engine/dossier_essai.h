@@ -4,6 +4,7 @@
 // A temporary folder standing for the program's folder, with the default
 // names and scores in it, removed at the end.
 
+#include <algorithm>
 #include <csignal>
 #include <cstddef>
 #include <filesystem>
@@ -53,6 +54,16 @@ private:
 
 // Runs `écriture` in a child that the system kills at its first rename, as
 // a crash at the worst moment of a write would; true when it died there.
+// Qt names a temporary file with six random letters; six lowercase ones are
+// kept at start as a player's own copy (one leftover in 64), so a test that
+// counts what the start clears must allow for them.
+inline bool GardéCommeCopie(const std::string &nom) {
+  const std::size_t point = nom.rfind('.');
+  return point != std::string::npos && nom.size() - point == 7 &&
+         std::all_of(nom.begin() + point + 1, nom.end(),
+                     [](char c) { return c >= 'a' && c <= 'z'; });
+}
+
 inline bool TuéAuRenommage(const std::function<void()> &écriture) {
   const pid_t enfant = fork();
   if (enfant == 0) {

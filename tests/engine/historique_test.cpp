@@ -99,10 +99,13 @@ TEST(Historique, LeFichierGardeSesDernièresLignes) {
     return std::distance(std::filesystem::directory_iterator(d.Chemin()), {});
   };
   EXPECT_EQ(Restes(), 4) << "Noms, Scores, Historique and the leftover";
+  bool copie = false;
+  for (const auto &f : std::filesystem::directory_iterator(d.Chemin()))
+    copie = copie || GardéCommeCopie(f.path().filename().string());
   PlateformeSansFenêtre p(d.Chemin());
   TroisNiveaux t(p);
   t.Form_Load();
-  EXPECT_EQ(Restes(), 3);
+  EXPECT_EQ(Restes(), copie ? 4 : 3);
 }
 
 TEST(Historique, LesChiffresDeChaqueSiège) {
