@@ -283,10 +283,11 @@ QThreadPool &Fil() {
 }
 
 // The other cores' helpers, in a pool of their own that the end of the
-// session can wait for too.
+// session waits for too. First asked for from the render thread, so it can
+// have no parent in the application's thread.
 QThreadPool &Aides() {
   static QThreadPool *const aides = [] {
-    auto *pool = new QThreadPool(QCoreApplication::instance());
+    auto *pool = new QThreadPool;
     pool->setMaxThreadCount(std::clamp(QThread::idealThreadCount(), 1, 4));
     return pool;
   }();
