@@ -94,6 +94,7 @@ struct JeuxDEssai {
     QFile index(d.filePath("svg-dehors/index.desktop"));
     if (index.open(QIODevice::WriteOnly))
       index.write("[KDE Backdeck]\nName=Dehors\nSVG=../svg-bon/jeu.svg\n");
+    index.close();
     jeux::DéfinitRacines({racine.path()});
     jeux::Choisit(0);
   }
