@@ -135,10 +135,7 @@ TEST(PagesWeb, LaPageVientDuServeurEtLesAutresHôtesSontRefusés) {
   EXPECT_EQ(pages.Vue(VueWeb::Pub0Web), nullptr) << "no view before the window is drawn";
   panneau.show();
   QTRY_VERIFY_WITH_TIMEOUT(pages.Vue(VueWeb::Pub0Web) != nullptr, 5000);
-  auto *vue = static_cast<QWebEngineView *>(pages.Vue(VueWeb::Pub0Web));
-  EXPECT_EQ(vue->parentWidget(), &panneau);
-  EXPECT_EQ(vue->geometry(), QRect(0, 14, 816, 157)) << "larger than its panel, which clips it";
-  EXPECT_TRUE(vue->testAttribute(Qt::WA_TransparentForMouseEvents));
+  EXPECT_NE(qobject_cast<QWebEngineView *>(pages.Vue(VueWeb::Pub0Web)), nullptr);
   QTRY_VERIFY_WITH_TIMEOUT(serveur.demandes.contains("/pub0.htm"), 60000);
   QTRY_VERIFY_WITH_TIMEOUT(PagesWeb::Refusées() > refuséesAvant, 30000);
 #endif
