@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #include <gtest/gtest.h>
 
 #include <QProcess>
@@ -107,11 +109,20 @@ private:
   void AjouteMode(RROutput sortie, unsigned largeur, unsigned hauteur, unsigned totalH,
                   unsigned totalV, unsigned long horloge) {
     std::string texte = std::to_string(largeur) + "x" + std::to_string(hauteur);
-    XRRModeInfo mode{.id = 0, .width = largeur, .height = hauteur, .dotClock = horloge,
-                     .hSyncStart = largeur + 24, .hSyncEnd = largeur + 160, .hTotal = totalH,
-                     .hSkew = 0, .vSyncStart = hauteur + 3, .vSyncEnd = hauteur + 9,
-                     .vTotal = totalV, .name = texte.data(),
-                     .nameLength = static_cast<unsigned>(texte.size()), .modeFlags = 0};
+    XRRModeInfo mode{.id = 0,
+                     .width = largeur,
+                     .height = hauteur,
+                     .dotClock = horloge,
+                     .hSyncStart = largeur + 24,
+                     .hSyncEnd = largeur + 160,
+                     .hTotal = totalH,
+                     .hSkew = 0,
+                     .vSyncStart = hauteur + 3,
+                     .vSyncEnd = hauteur + 9,
+                     .vTotal = totalV,
+                     .name = texte.data(),
+                     .nameLength = static_cast<unsigned>(texte.size()),
+                     .modeFlags = 0};
     XRRAddOutputMode(affichage, sortie,
                      XRRCreateMode(affichage, DefaultRootWindow(affichage), &mode));
     XSync(affichage, False);

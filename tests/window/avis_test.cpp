@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 // The connection notice and the display-mode dialog as they are drawn.
 #include <gtest/gtest.h>
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -60,7 +62,8 @@ TEST(DossierDesDonnées, PortableOuCopiéChezLeJoueurAuPremierLancement) {
   Écrit(m.programme + "/Noms", Noms);
   const auto portable = m.Choisit();
   EXPECT_TRUE(portable.portable && portable.erreur.isEmpty());
-  EXPECT_EQ(QStringList({portable.dossier, portable.pages}), QStringList({m.programme, m.programme}));
+  EXPECT_EQ(QStringList({portable.dossier, portable.pages}),
+            QStringList({m.programme, m.programme}));
   EXPECT_FALSE(QFileInfo::exists(m.personnel)) << "the player's folder is left alone";
   QFile::remove(m.programme + "/Noms");
 
@@ -239,8 +242,9 @@ TEST(FichiersHostiles, ChaqueLecteurPasseSurTubeAppareilÉnormeEtTronqué) {
 TEST(FichiersHostiles, UnRenommageInterrompuDesRéglagesNeLaisseRien) {
   RéglagesÀPart réglages;
   RéglagesDuJoueur()->setValue("cartes/jeu", "svg-avant");
-  ASSERT_TRUE(TuéAuRenommage(
-      [] { format::ÉcritFichier(FichierDesRéglages().toStdString(), "[cartes]\njeu=x\n", false); }));
+  ASSERT_TRUE(TuéAuRenommage([] {
+    format::ÉcritFichier(FichierDesRéglages().toStdString(), "[cartes]\njeu=x\n", false);
+  }));
   const QDir dossier = QFileInfo(FichierDesRéglages()).dir();
   const QStringList avant = dossier.entryList(QDir::Files);
   ASSERT_EQ(avant.size(), 2);

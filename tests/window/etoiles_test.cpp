@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 // The stars fall while the window can be seen and stand still, with no timer
 // waking the game, while it cannot; shown again they go on from where they were.
 #include <QElapsedTimer>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 // Card decks: every installed deck draws, a broken one leaves the game's own,
 // F8 puts the chosen deck on the table and the choice outlives the session.
 #include <gtest/gtest.h>
@@ -12,10 +14,10 @@
 #include <numeric>
 
 #include "platform/qt/bureau/reglages.h"
-#include "platform/qt/jeux/choix_du_jeu.h"
 #include "platform/qt/fenetre/images.h"
-#include "platform/qt/jeux/jeux_de_cartes.h"
 #include "platform/qt/fenetre/vue_controle.h"
+#include "platform/qt/jeux/choix_du_jeu.h"
+#include "platform/qt/jeux/jeux_de_cartes.h"
 #include "table_essai.h"
 
 namespace {

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 // The window tests need a display: without one they use Qt's offscreen
 // platform. Test discovery runs without the test's environment, so it is set
 // here.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 // The history panel: the figures it shows are those of the file, it opens
 // and closes, and it follows the window's size.
 #include <gtest/gtest.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 // A session of the game cut down to what the display mode needs, for the
 // tests on a virtual X screen: the real platform, the dialog answered yes,
 // the ways out guarded as in the game. Prints its window's id, then waits.
@@ -7,8 +9,8 @@
 #include <cstdio>
 
 #include "core/table_state.h"
-#include "platform/qt/fenetre/plateforme_qt.h"
 #include "platform/qt/bureau/sortie.h"
+#include "platform/qt/fenetre/plateforme_qt.h"
 
 namespace {
 struct PlateformePilote : PlateformeQt {
