@@ -3,8 +3,6 @@
 // The game: the table in its window, over the engine.
 #include <QApplication>
 
-#include "platform/qt/bureau/identite.h"
-#include "platform/qt/bureau/langue.h"
 #include "platform/qt/bureau/ligne_de_commande.h"
 #include "platform/qt/fenetre/partie.h"
 #include "platform/qt/jeux/jeux_de_cartes.h"
@@ -15,8 +13,7 @@ int main(int argc, char *argv[]) {
     return *fin;
   PrépareWebEngine();
   QApplication application(argc, argv);
-  ParleLangue(LangueDeDépart(LangueDeLaLigneDeCommande()));
-  if (!PrépareDémarrage())
+  if (!PrépareLaPartie())
     return 1;
   Partie partie;
   if (const auto fin = partie.Démarre())

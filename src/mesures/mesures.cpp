@@ -20,9 +20,6 @@
 #include <string>
 #include <string_view>
 
-#include "platform/qt/bureau/identite.h"
-#include "platform/qt/bureau/langue.h"
-#include "platform/qt/bureau/ligne_de_commande.h"
 #include "platform/qt/fenetre/partie.h"
 #include "platform/qt/jeux/choix_du_jeu.h"
 #include "platform/qt/jeux/jeux_de_cartes.h"
@@ -239,8 +236,7 @@ int main(int argc, char *argv[]) {
     return *fin;
   PrépareWebEngine();
   QApplication application(argc, argv);
-  ParleLangue(LangueDeDépart(LangueDeLaLigneDeCommande()));
-  if (!PrépareDémarrage())
+  if (!PrépareLaPartie())
     return 1;
   Partie partie;
   if (const auto fin = partie.Démarre())

@@ -9,7 +9,6 @@
 
 #include "platform/qt/bureau/dossier_donnees.h"
 #include "platform/qt/bureau/messages.h"
-#include "platform/qt/panneaux/pages_web.h"
 
 #ifndef TN_ID_APPLICATION
 #define TN_ID_APPLICATION "io.github.troisniveaux.TroisNiveaux"
@@ -31,7 +30,6 @@ bool PrépareDémarrage() {
   QApplication::setWindowIcon(icône);
 
   const DossierDesDonnéesChoisi &choix = DossierDeCetteSession();
-  PagesWeb::DéfinitDossierLocal(choix.pages);
   if (choix.erreur.isEmpty())
     return true;
   const QString message =

@@ -293,17 +293,6 @@ void Dessine(QPainter &p, int index, qreal l, qreal h) {
 
 } // namespace
 
-QImage Peint(QSize taille, qreal ratio, const std::function<void(QPainter &)> &dessin) {
-  QImage image(taille * ratio, QImage::Format_ARGB32_Premultiplied);
-  image.fill(Qt::transparent);
-  image.setDevicePixelRatio(ratio);
-  QPainter p(&image);
-  p.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
-                   QPainter::SmoothPixmapTransform);
-  dessin(p);
-  return image;
-}
-
 QImage ImageBrute(int index, QSize taille, qreal ratio) {
   return Peint(taille, ratio,
                [&](QPainter &p) { Dessine(p, index, taille.width(), taille.height()); });

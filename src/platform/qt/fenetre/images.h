@@ -6,9 +6,6 @@
 
 #include <QPixmap>
 #include <QSize>
-#include <functional>
-
-class QPainter;
 
 // Picture `index` (0..54 the cards by code, or an ImageBouton) at `taille`
 // logical pixels. Pictures are cached by index, size and ratio.
@@ -16,7 +13,3 @@ QPixmap Image(int index, QSize taille, qreal ratio);
 
 // The same picture painted straight into an image, for tests and captures.
 QImage ImageBrute(int index, QSize taille, qreal ratio);
-
-// A clear image of `taille` logical pixels at `ratio`, with `dessin` painted
-// into it smoothly: how every picture of the cards is made.
-QImage Peint(QSize taille, qreal ratio, const std::function<void(QPainter &)> &dessin);

@@ -6,9 +6,21 @@
 #include <QMessageBox>
 #include <memory>
 
+#include "platform/qt/bureau/dossier_donnees.h"
+#include "platform/qt/bureau/identite.h"
+#include "platform/qt/bureau/langue.h"
+#include "platform/qt/bureau/ligne_de_commande.h"
 #include "platform/qt/bureau/messages.h"
 #include "platform/qt/bureau/sortie.h"
 #include "platform/qt/panneaux/pages_web.h"
+
+bool PrépareLaPartie() {
+  ParleLangue(LangueDeDépart(LangueDeLaLigneDeCommande()));
+  if (!PrépareDémarrage())
+    return false;
+  PagesWeb::DéfinitDossierLocal(DossierDeCetteSession().pages);
+  return true;
+}
 
 Partie::Partie() : table(plateforme), fenêtre(table, plateforme) {
   GardeLesSorties(table);

@@ -11,9 +11,14 @@
 #include "platform/qt/fenetre/fenetre_table.h"
 #include "platform/qt/fenetre/plateforme_qt.h"
 
+// What comes before the table, once the application object exists: the
+// language, the program's names, the data folder and the pages it holds.
+// False, the player told why, when the game cannot start.
+bool PrépareLaPartie();
+
 class Partie {
 public:
-  // After the application object and PrépareDémarrage.
+  // After the application object and PrépareLaPartie.
   Partie();
   // Loads the session and sizes the window as the player left it. Nothing
   // when the table is ready to be shown; else the exit status of a start

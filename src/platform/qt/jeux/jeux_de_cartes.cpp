@@ -5,7 +5,6 @@
 #include "files/format.h"
 #include "platform/qt/bureau/langue.h"
 #include "platform/qt/bureau/reglages.h"
-#include "platform/qt/fenetre/images.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -91,6 +90,17 @@ std::optional<JeuDeCartes> LitJeu(const QString &dossier) {
   jeu.noms = noms;
   jeu.fichier = fichier;
   return jeu;
+}
+
+QImage Peint(QSize taille, qreal ratio, const std::function<void(QPainter &)> &dessin) {
+  QImage image(taille * ratio, QImage::Format_ARGB32_Premultiplied);
+  image.fill(Qt::transparent);
+  image.setDevicePixelRatio(ratio);
+  QPainter p(&image);
+  p.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
+                   QPainter::SmoothPixmapTransform);
+  dessin(p);
+  return image;
 }
 
 namespace {

@@ -18,12 +18,19 @@
 #include <optional>
 #include <vector>
 
+class QPainter;
+
 struct JeuDeCartes {
   QString id;                  // the folder's name, e.g. "svg-oxygen": what the settings keep
   QString nom;                 // the name to show, in French where the deck has one
   QMap<QString, QString> noms; // Name[xx] by language xx, "" for Name
   QString fichier;             // the SVG or SVGZ file
 };
+
+// A clear image of `taille` logical pixels at `ratio`, with `dessin` painted
+// into it smoothly: how every picture of the cards is made, the decks' and
+// the game's own.
+QImage Peint(QSize taille, qreal ratio, const std::function<void(QPainter &)> &dessin);
 
 // The SVG element of a picture of the game (0..51 by card code, 52 and 53
 // the red and black jokers, 54 the back).
