@@ -20,30 +20,6 @@
 #include "platform/qt/fenetre/vue_controle.h"
 #include "table_essai.h"
 
-// At the start the panels wear their colours and GO waits hidden; JOUER
-// shows the human's cards and the computers' backs, Enter on a hidden GO
-// does nothing, and GO leads to the showdown.
-TEST(Fenêtre, JouerMontreLesCartesDeLHumainPuisGOLaRéponse) {
-  Table table;
-  auto &f = table.t.Fenêtre;
-  EXPECT_EQ(table.fenêtre.size(), QSize(1024, 768));
-  EXPECT_EQ(table.Pixel(f.SSJoueur[1], {200, 3}), QColor(0, 0xC0, 0));
-  EXPECT_EQ(table.Pixel(f.MenuSS, {2, 2}), QColor(0x80, 0x80, 0x80));
-  EXPECT_EQ(table.Pixel(f.TempsFondSS, {255, 20}), QColor(0xFF, 0xC0, 0x80));
-  EXPECT_FALSE(table.Vue(f.CartesJeu[40])->isEnabled());
-  table.Touche(Qt::Key_Return);
-  EXPECT_FALSE(table.Vue(f.Joue)->isVisible());
-  EXPECT_EQ(f.CartesJeu[39].Picture, PasDeCarte) << "GO is hidden: Enter does nothing";
-  table.Clic(f.NouveauJeu);
-  ASSERT_TRUE(table.Vue(f.Joue)->isVisible());
-  for (int c = 0; c <= 51; ++c)
-    EXPECT_EQ(f.CartesJeu[c].Picture, c < 39 ? PasDeCarte : table.t.Mains[3][c - 39]) << c;
-  table.Touche(Qt::Key_Return);
-  EXPECT_FALSE(table.Vue(f.Joue)->isVisible());
-  EXPECT_NE(f.CartesJeu[0].Picture, PasDeCarte);
-  EXPECT_TRUE(table.Vue(f.VoirOrdi[0])->isVisible());
-}
-
 // Whether every widget stands shown or hidden, live or off, as its control.
 ::testing::AssertionResult SuitLeModèle(FenêtreTable &fenêtre) {
   std::string écarts;
@@ -58,9 +34,13 @@ TEST(Fenêtre, JouerMontreLesCartesDeLHumainPuisGOLaRéponse) {
 
 // A session as a player makes it, every step through the widgets: deals in
 // both modes, the solution view, a replay, the names panel and the book.
+// Enter does nothing while GO is hidden.
 TEST(Fenêtre, UneSessionAuComplet) {
   Table table;
   auto &f = table.t.Fenêtre;
+  EXPECT_EQ(table.Pixel(f.TempsFondSS, {255, 20}), QColor(0xFF, 0xC0, 0x80));
+  table.Touche(Qt::Key_Return);
+  EXPECT_FALSE(f.VoirOrdi[0].Visible);
   const auto étape = [&](const Contrôle &c) {
     ASSERT_TRUE(table.Vue(c)->isVisible() && table.Vue(c)->isEnabled()) << c.Nom;
     table.Clic(c);
@@ -78,15 +58,21 @@ TEST(Fenêtre, UneSessionAuComplet) {
   EXPECT_EQ(somme, 0) << "the points add up to zero";
 }
 
-// Outside a search the bar and Entrée hurry nothing: the next search keeps
-// its pace. In the middle of it STOP (clicked or by Échap) cuts it short and
-// the table waits; QUITTER or the close box unwind the nested loops and the
+// A deal played flat out, then replayed at its pace (32 s in DEBUTANT); the
+// bar and Entrée hurry nothing outside a search. In the middle of it STOP
+// (clicked or by Échap) cuts it short and the table waits; Entrée, a click
+// on the bar or a reader's action on it hurry it to the same rows and its
+// showdown; QUITTER or the close box unwind the nested loops and the
 // application's loop ends with status 0. The window answers all along.
 TEST(Fenêtre, UnBalayageRythméSArrêteOuFinitAussitôt) {
-  enum Façon { Stop, Échap, Quitter, Croix };
-  for (const Façon façon : {Stop, Échap, Quitter, Croix}) {
+  enum Façon { Stop, Échap, Entrée, Barre, Lecteur, Quitter, Croix };
+  for (const Façon façon : {Stop, Échap, Entrée, Barre, Lecteur, Quitter, Croix}) {
     Table table;
     auto &f = table.t.Fenêtre;
+    table.Clic(f.NouveauJeu);
+    table.Clic(f.Joue);
+    const auto rangements = std::to_array(table.t.MeilleurRangement);
+    ASSERT_GT(rangements[3], 0) << "DEBUTANT searches the human's cards too";
     table.Clic(f.TempsFondSS);
     table.Touche(Qt::Key_Return);
     EXPECT_FALSE(table.plateforme.pressé);
@@ -96,13 +82,19 @@ TEST(Fenêtre, UnBalayageRythméSArrêteOuFinitAussitôt) {
       EXPECT_TRUE(f.Arrêt.Enabled && !f.NouveauJeu.Enabled);
       if (façon == Stop)
         table.Clic(f.Arrêt);
-      else if (façon == Échap)
-        table.Touche(Qt::Key_Escape);
+      else if (façon == Échap || façon == Entrée)
+        table.Touche(façon == Échap ? Qt::Key_Escape : Qt::Key_Return);
+      else if (façon == Barre)
+        table.Clic(f.TempsFondSS);
+      else if (façon == Lecteur)
+        QAccessible::queryAccessibleInterface(table.Vue(f.TempsShape))
+            ->actionInterface()
+            ->doAction("hurry");
       else
         façon == Croix ? static_cast<void>(table.fenêtre.close()) : table.Clic(f.Fin);
     });
     QTimer::singleShot(0, [&] {
-      table.Clic(f.NouveauJeu);
+      table.Clic(f.Rejoue);
       if (façon < Quitter)
         QCoreApplication::quit();
     });
@@ -111,12 +103,16 @@ TEST(Fenêtre, UnBalayageRythméSArrêteOuFinitAussitôt) {
     EXPECT_EQ(QApplication::exec(), 0);
     EXPECT_LT(chrono.elapsed(), 3000) << façon;
     EXPECT_LT(table.plateforme.plusLongSansÉvénements, 100);
-    if (façon >= Quitter) {
+    if (façon >= Quitter)
       EXPECT_TRUE(table.t.SessionTerminée && table.plateforme.quitté) << façon;
-    } else {
-      EXPECT_FALSE(f.Arrêt.Enabled || table.Vue(f.Joue)->isVisible());
-      EXPECT_TRUE(table.Vue(f.NouveauJeu)->isEnabled());
-    }
+    else if (façon >= Entrée)
+      EXPECT_TRUE(table.plateforme.pressé && f.VoirOrdi[0].Visible &&
+                  std::to_array(table.t.MeilleurRangement) == rangements)
+          << façon;
+    else
+      EXPECT_TRUE(!f.Arrêt.Enabled && !table.Vue(f.Joue)->isVisible() &&
+                  table.Vue(f.NouveauJeu)->isEnabled())
+          << façon;
   }
 }
 
@@ -205,13 +201,9 @@ TEST(Langues, F12ChangeDeLangueEtRedessineTout) {
   EXPECT_EQ(TexteAffiché(f.NouveauJeu), "PLAY");
   EXPECT_EQ(fermer->text(), "CLOSE");
   EXPECT_EQ(table.Vue(f.NouveauJeu)->toolTip(), "PLAY — F2 key");
-  EXPECT_EQ(NomDeCarte(34), "ten of hearts");
   EXPECT_EQ(lu(carte), NomDeCarte(f.CartesJeu[39].Picture) + ", level 1");
-  EXPECT_EQ(lu(table.Vue(f.NouveauJeu)), "PLAY");
   EXPECT_EQ(lu(table.Vue(f.NomsJoueursText[1])->findChild<QLineEdit *>()), "Name of player 2");
-  EXPECT_TRUE(lu(résumé).startsWith("End of the deal. MicroProc: ") &&
-              lu(résumé).contains("deal total"))
-      << lu(résumé).toStdString();
+  EXPECT_TRUE(lu(résumé).startsWith("End of the deal. MicroProc: ")) << lu(résumé).toStdString();
   EXPECT_NE(table.Vue(f.NiveauLabel[0])->width(), niveau) << "LEVEL 1 is narrower";
   const auto anglais = image();
   EXPECT_TRUE(anglais.first != français.first && anglais.second != français.second);
