@@ -12,9 +12,7 @@
 
 #include "dossier_essai.h"
 
-#include "core/table_state.h"
 #include "platform/qt/bureau/affichage.h"
-#include "platform/sans_fenetre.h"
 
 // Where the table, frame included, does not fit the screen's free area, the
 // window is the largest of the same proportions that fits: free area, frame,
@@ -133,23 +131,6 @@ private:
   Display *affichage = nullptr;
 };
 
-// The engine's display procedures over the X11 path of a named display.
-class PlateformeX11 : public PlateformeSansFenêtre {
-public:
-  explicit PlateformeX11(std::string nom) : nom(std::move(nom)) {}
-  void EnumDisplaySettings(EnregistrementAffichage &e) override {
-    if (const auto lu = LitModeX11(nom.c_str()))
-      e = *lu;
-  }
-  void ChangeDisplaySettings(const EnregistrementAffichage &e) override {
-    PlateformeSansFenêtre::ChangeDisplaySettings(e);
-    AppliqueModeX11(e, nom.c_str());
-  }
-
-private:
-  std::string nom;
-};
-
 // The cut-down session on the virtual screen, in a folder of its own; it has
 // changed the mode once it has printed its window.
 struct Pilote {
@@ -187,8 +168,8 @@ struct Pilote {
 
 // The mode read, changed and put back; the same mode is never sent again, a
 // size not offered is refused, and a rate not offered is left to the server.
-// A session puts the mode back however it ends: by a signal, the X
-// connection lost, or a start refused after the change.
+// A session changes the mode as it starts and puts it back however it ends:
+// by a signal, the X connection lost, or a start refused after the change.
 TEST(AffichageX11, UnÉcranDe600PixelsPasseEn1024x768PuisRevient) {
   ÉcranVirtuel écran;
   if (!écran.prêt)
@@ -207,13 +188,6 @@ TEST(AffichageX11, UnÉcranDe600PixelsPasseEn1024x768PuisRevient) {
   EXPECT_FALSE(AppliqueModeX11({800, 600, 24, 60, 0}, écran.nom.c_str())) << "no such size";
   EXPECT_EQ(écran.DernierChangement(), avant) << "the same mode is never sent again";
 
-  PlateformeX11 plateforme(écran.nom);
-  TroisNiveaux t(plateforme);
-  t.VérifieRésolution();
-  EXPECT_EQ(plateforme.demandesRésolution, 1);
-  EXPECT_EQ(écran.Taille(), haut);
-  t.RestaureRésolution();
-  EXPECT_EQ(écran.Taille(), bas);
   EXPECT_TRUE(AppliqueModeX11({1024, 768, 24, 144, 0}, écran.nom.c_str()));
   EXPECT_EQ(écran.Taille(), haut);
   écran.Taille(bas);

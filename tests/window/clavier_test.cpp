@@ -75,10 +75,15 @@ TEST(Clavier, UnÉchangeAuClavierVautUnÉchangeÀLaSouris) {
 
 // Tab and Maj+Tab walk the live buttons as the menu reads, top to bottom and
 // then the pictures, skipping what is hidden or off; Espace presses the one
-// reached.
+// reached. The keys are named as on a French keyboard and as the README
+// names them; F11 puts the table full screen and back, and Échap keeps its
+// one meaning there.
 TEST(Clavier, TabParcourtLesBoutonsActifs) {
   Table table;
   auto &f = table.t.Fenêtre;
+  EXPECT_EQ(table.Vue(f.Arrêt)->toolTip(), "STOP — touche Échap");
+  EXPECT_EQ(table.Vue(f.Fin)->toolTip(), "QUITTER — touche Ctrl+Q");
+  EXPECT_TRUE(table.Vue(f.TempsShape)->toolTip().contains("Entrée"));
   const Contrôle *ordre[] = {&f.NouveauJeu, &f.Scoresà0, &f.NomsJoueurs, &f.Mode,
                              &f.Rejoue,     &f.Arrêt,    &f.Fin,         &f.VoirRègles[0]};
   for (const Contrôle *c : ordre) {
@@ -100,6 +105,12 @@ TEST(Clavier, TabParcourtLesBoutonsActifs) {
     EXPECT_TRUE(atteints.count(table.Vue(*live))) << live->Nom;
   for (const Contrôle *off : {&f.NouveauJeu, &f.Rejoue, &f.VoirOrdi[0], &f.EnregistreNoms})
     EXPECT_FALSE(atteints.count(table.Vue(*off))) << off->Nom;
+  table.Touche(Qt::Key_F11);
+  table.Touche(Qt::Key_Escape);
+  EXPECT_TRUE(table.fenêtre.windowState() & Qt::WindowFullScreen);
+  EXPECT_FALSE(f.Arrêt.Enabled) << "Échap pressed STOP";
+  table.Touche(Qt::Key_F11);
+  EXPECT_FALSE(table.fenêtre.windowState() & Qt::WindowFullScreen);
 }
 
 // Enter in a name box was GO: in the state Waiting, STOP pressed, it showed
@@ -154,20 +165,4 @@ TEST(Clavier, EntréeDansLePanneauDesNomsEnregistreSansJouer) {
   // With the panel shut the table's keys work again.
   table.Touche(Qt::Key_Return);
   EXPECT_TRUE(f.VoirOrdi[0].Visible);
-}
-
-// The keys are named as on a French keyboard and as the README names them;
-// F11 puts the table full screen and back, and Échap keeps its one meaning.
-TEST(Clavier, LesBullesNommentLesTouchesEnFrançaisEtF11LePleinÉcran) {
-  Table table;
-  auto &f = table.t.Fenêtre;
-  EXPECT_EQ(table.Vue(f.Arrêt)->toolTip(), "STOP — touche Échap");
-  EXPECT_EQ(table.Vue(f.Fin)->toolTip(), "QUITTER — touche Ctrl+Q");
-  EXPECT_TRUE(table.Vue(f.TempsShape)->toolTip().contains("Entrée"));
-  table.Touche(Qt::Key_F11);
-  table.Touche(Qt::Key_Escape);
-  EXPECT_TRUE(table.fenêtre.windowState() & Qt::WindowFullScreen);
-  EXPECT_FALSE(f.Arrêt.Enabled) << "STOP at Start only disables itself";
-  table.Touche(Qt::Key_F11);
-  EXPECT_FALSE(table.fenêtre.windowState() & Qt::WindowFullScreen);
 }

@@ -107,8 +107,11 @@ TEST(Échelle, LaTableGrandiEnEntierAuMilieuDuNoir) {
 }
 
 // The clicks go through the window system to whatever lies under them, at
-// places worked out from the design: JOUER deals, then two cards swap.
-TEST(Échelle, UnClicTombeLàOùLeContrôleSeVoit) {
+// places worked out from the design: JOUER deals, then two cards swap. At
+// twice the size a card is the picture drawn at twice the size, not the
+// small one stretched, and the stars fall at grown places, grown themselves;
+// pictures that look alike (6 and 9, ♦ and ♥) differ.
+TEST(Échelle, LesClicsEtLesDessinsSuiventLaTaille) {
   Table table;
   auto &f = table.t.Fenêtre;
   for (const QSize taille : {QSize(1600, 1000), QSize(800, 600)}) {
@@ -130,14 +133,6 @@ TEST(Échelle, UnClicTombeLàOùLeContrôleSeVoit) {
     QTest::mouseClick(fenêtre, Qt::LeftButton, {}, Milieu(table, f.Joue, s));
     EXPECT_FALSE(f.Joue.Visible) << "GO was pressed at " << taille.width();
   }
-}
-
-// At twice the size a card is the picture drawn at twice the size, not the
-// small one stretched, and the stars fall at grown places, grown themselves;
-// pictures that look alike (6 and 9, ♦ and ♥) differ.
-TEST(Échelle, LesCartesEtLesÉtoilesSontDessinéesÀLaTailleFinale) {
-  Table table;
-  auto &f = table.t.Fenêtre;
   table.Redimensionne({2048, 1536});
   QWidget *fond = table.fenêtre.Fond();
   const qreal ratio = fond->devicePixelRatioF();

@@ -62,11 +62,6 @@ struct BaseEssai {
   }
 };
 
-[[maybe_unused]] QString TexteDe(QWidget *vue) {
-  auto *texte = qobject_cast<QTextBrowser *>(vue);
-  return texte ? texte->toPlainText() : QString();
-}
-
 } // namespace
 
 TEST(PagesWeb, SeulsLeServeurConfiguréEtLeLogoLocalSontPermis) {
@@ -109,13 +104,17 @@ TEST(PagesWeb, LaPageVientDuServeurSansAutreHôteNiRedirection) {
   pages.Navigue(VueWeb::Pub0Web, "pub0.htm");
   pages.Navigue(VueWeb::Pub1Web, "pub1.htm");
   pub0.show();
-  QTRY_VERIFY_WITH_TIMEOUT(TexteDe(pages.Vue(VueWeb::Pub0Web)).contains("Publicité"), 10000);
+  const auto texte = [&](VueWeb vue) {
+    auto *page = qobject_cast<QTextBrowser *>(pages.Vue(vue));
+    return page ? page->toPlainText() : QString();
+  };
+  QTRY_VERIFY_WITH_TIMEOUT(texte(VueWeb::Pub0Web).contains("Publicité"), 10000);
   QTRY_VERIFY_WITH_TIMEOUT(serveur.demandes.contains("/image.png"), 10000);
   QTRY_VERIFY_WITH_TIMEOUT(serveur.demandes.contains("/pub1.htm"), 10000);
   QTest::qWait(300);
   EXPECT_GT(PagesWeb::Refusées(), refuséesAvant) << "the other host's picture";
   EXPECT_TRUE(ailleurs.demandes.isEmpty()) << "a redirect is not followed";
-  EXPECT_TRUE(TexteDe(pages.Vue(VueWeb::Pub1Web)).isEmpty());
+  EXPECT_TRUE(texte(VueWeb::Pub1Web).isEmpty());
   EXPECT_EQ(serveur.demandes.count("/pub0.htm"), 1);
 }
 
