@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
-#include <gtest/gtest.h>
 
 #include <QAccessible>
 #include <QCoreApplication>

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 // The connection notice and the display-mode dialog as they are drawn.
-#include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QImage>
 #include <QPushButton>
-#include <QTest>
 #include <QTimer>
 #include <map>
 #include <set>
@@ -44,20 +42,17 @@ TEST(Avis, LeMessageHorsLigneTientEntierDansSonÉtiquette) {
   EXPECT_GT(droite - gauche, 300) << "the notice is drawn";
 }
 
-TEST(Avis, LeDialogueDuModeDAffichageASesBoutonsUnisEtSonLogoDécalé) {
+TEST(Avis, LeDialogueDuModeDAffichageASesBoutonsUnis) {
 #ifdef TN_SANS_CHROMIUM
   GTEST_SKIP() << "the dialog's logo starts the browser, which is not ours to check here";
 #endif
   QWidget *vu = nullptr;
-  QRect logo;
   std::map<QString, std::set<QRgb>> teintes;
   QTimer::singleShot(0, [&] {
     vu = QApplication::activeModalWidget();
     if (!vu)
       return;
     static_cast<void>(QTest::qWaitForWindowExposed(vu));
-    if (QWidget *l = vu->findChild<QWidget *>("LogoWeb"))
-      logo = l->geometry();
     QPushButton *oui = nullptr;
     for (QPushButton *b : vu->findChildren<QPushButton *>()) {
       const QImage image = b->grab().toImage().scaled(b->size());
@@ -71,7 +66,6 @@ TEST(Avis, LeDialogueDuModeDAffichageASesBoutonsUnisEtSonLogoDécalé) {
   });
   EXPECT_TRUE(DemandeAccordRésolution());
   ASSERT_NE(vu, nullptr) << "the dialog is modal";
-  EXPECT_EQ(logo.topLeft(), QPoint(-2, -2)) << "the logo is shifted into its frame";
   EXPECT_EQ(teintes, (std::map<QString, std::set<QRgb>>{
                          {"Je suis d'accord", {qRgb(0xC0, 0xFF, 0xC0)}},
                          {"Je ne suis pas d'accord", {qRgb(0xFF, 0xC0, 0xC0)}}}));

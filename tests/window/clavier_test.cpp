@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
-#include <gtest/gtest.h>
 
 #include <QLineEdit>
-#include <QTest>
 #include <QTimer>
 #include <array>
 #include <set>

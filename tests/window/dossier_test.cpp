@@ -112,8 +112,6 @@ TEST(DossierDesDonnées, PortableOuCopiéChezLeJoueurAuPremierLancement) {
 
 TEST(LigneDeCommande, AideEtVersionSeulement) {
   const std::tuple<const char *, std::optional<int>, const char *> cas[] = {
-      {"--help", 0, "Utilisation : troisniveaux"},
-      {"--version", 0, "troisniveaux 0"},
       {nullptr, std::nullopt, ""},
       {"--plein-écran", 2, "option inconnue « --plein-écran »"},
       {"Noms", 2, "argument inattendu « Noms »"}};
@@ -129,32 +127,6 @@ TEST(LigneDeCommande, AideEtVersionSeulement) {
 }
 
 namespace {
-
-// What a hostile or careless neighbour may leave at a file's name.
-enum class Sorte { Tube, LienVersAppareil, Énorme, Tronqué };
-
-void Pose(const QString &chemin, Sorte sorte, const QByteArray &bon) {
-  QFile::remove(chemin);
-  QDir().mkpath(QFileInfo(chemin).absolutePath());
-  switch (sorte) {
-  case Sorte::Tube:
-    ASSERT_EQ(mkfifo(QFile::encodeName(chemin).constData(), 0644), 0);
-    break;
-  case Sorte::LienVersAppareil:
-    ASSERT_TRUE(QFile::link("/dev/zero", chemin));
-    break;
-  case Sorte::Énorme: {
-    // Far past every bound, and no file of the game.
-    QFile f(chemin);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    ASSERT_TRUE(f.resize(64LL * 1024 * 1024));
-    break;
-  }
-  case Sorte::Tronqué:
-    Écrit(chemin, bon.left(bon.size() / 2));
-    break;
-  }
-}
 
 // The settings in a folder of the test's own, the others' put back after.
 struct RéglagesÀPart {
@@ -214,38 +186,32 @@ TEST(FichiersHostiles, ChaqueLecteurPasseSurTubeAppareilÉnormeEtTronqué) {
       {"deck index", jeu + "/index.desktop", index, [&] { return !LitJeu(jeu); }},
       {"deck SVG", svg, svgzBon, [&] { return !ContenuDuJeu(svg); }},
   };
+  // What a hostile or careless neighbour may leave at a file's name: a pipe,
+  // a link to a device, a file far past every bound, a file cut short.
+  const std::function<void(const Lecteur &)> poses[] = {
+      [](const Lecteur &l) { ASSERT_EQ(mkfifo(QFile::encodeName(l.chemin).constData(), 0644), 0); },
+      [](const Lecteur &l) { ASSERT_TRUE(QFile::link("/dev/zero", l.chemin)); },
+      [](const Lecteur &l) {
+        Écrit(l.chemin, {});
+        EXPECT_TRUE(QFile::resize(l.chemin, 64LL << 20));
+      },
+      [](const Lecteur &l) { Écrit(l.chemin, l.bon.left(l.bon.size() / 2)); }};
   for (const Lecteur &l : lecteurs)
-    for (Sorte sorte : {Sorte::Tube, Sorte::LienVersAppareil, Sorte::Énorme, Sorte::Tronqué}) {
-      Pose(l.chemin, sorte, l.bon);
-      EXPECT_TRUE(l.passe()) << l.nom << " " << static_cast<int>(sorte);
+    for (std::size_t sorte = 0; sorte < std::size(poses); ++sorte) {
+      QFile::remove(l.chemin);
+      QDir().mkpath(QFileInfo(l.chemin).absolutePath());
+      poses[sorte](l);
+      EXPECT_TRUE(l.passe()) << l.nom << " " << sorte;
       QFile::remove(l.chemin);
       Écrit(l.chemin, l.bon);
       EXPECT_FALSE(l.passe()) << l.nom << " read back whole";
     }
 
   // A change of settings does not replace a pipe.
-  Pose(FichierDesRéglages(), Sorte::Tube, {});
+  QFile::remove(FichierDesRéglages());
+  ASSERT_EQ(mkfifo(QFile::encodeName(FichierDesRéglages()).constData(), 0644), 0);
   RéglagesDuJoueur()->setValue("cartes/jeu", "svg-x");
-  EXPECT_TRUE(QFileInfo(FichierDesRéglages()).isFile() == false);
-  EXPECT_TRUE(QFileInfo::exists(FichierDesRéglages()));
+  EXPECT_TRUE(QFileInfo(FichierDesRéglages()).exists() &&
+              !QFileInfo(FichierDesRéglages()).isFile());
   alarm(0);
-}
-
-// A crash in the rename of the settings leaves its temporary file, which the
-// next look at the settings clears; the old settings stand.
-TEST(FichiersHostiles, UnRenommageInterrompuDesRéglagesNeLaisseRien) {
-  RéglagesÀPart réglages;
-  RéglagesDuJoueur()->setValue("cartes/jeu", "svg-avant");
-  ASSERT_TRUE(TuéAuRenommage([] {
-    format::ÉcritFichier(FichierDesRéglages().toStdString(), "[cartes]\njeu=x\n", false);
-  }));
-  const QDir dossier = QFileInfo(FichierDesRéglages()).dir();
-  const QStringList avant = dossier.entryList(QDir::Files);
-  ASSERT_EQ(avant.size(), 2);
-  EXPECT_EQ(RéglagesDuJoueur()->value("cartes/jeu").toString(), "svg-avant");
-  QStringList attendus{QFileInfo(FichierDesRéglages()).fileName()};
-  for (const QString &nom : avant)
-    if (GardéCommeCopie(nom.toStdString()))
-      attendus = avant;
-  EXPECT_EQ(dossier.entryList(QDir::Files), attendus);
 }

@@ -2,7 +2,6 @@
 // SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 // Card decks: every installed deck draws, a broken one leaves the game's own,
 // F8 puts the chosen deck on the table and the choice outlives the session.
-#include <gtest/gtest.h>
 
 #include <QDir>
 #include <QLabel>

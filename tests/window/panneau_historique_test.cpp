@@ -2,11 +2,9 @@
 // SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 // The history panel: the figures it shows are those of the file, it opens
 // and closes, and it follows the window's size.
-#include <gtest/gtest.h>
 
 #include <QAccessible>
 #include <QPushButton>
-#include <QTest>
 
 #include "files/historique.h"
 #include "platform/qt/panneaux/panneau_historique.h"

@@ -54,7 +54,6 @@ public:
 
 // Puts the base back whatever the test's outcome.
 struct BaseEssai {
-  QString avant = PagesWeb::Base();
   explicit BaseEssai(const QString &base) { PagesWeb::DéfinitBase(base); }
   ~BaseEssai() {
     PagesWeb::DéfinitBase("");
