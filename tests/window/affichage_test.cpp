@@ -68,8 +68,6 @@ public:
     serveur.kill();
     serveur.waitForFinished(5000);
   }
-  ÉcranVirtuel(const ÉcranVirtuel &) = delete;
-  ÉcranVirtuel &operator=(const ÉcranVirtuel &) = delete;
 
   // The current size; with `voulue`, first sets the screen to it if offered.
   std::pair<int, int> Taille(std::pair<int, int> voulue = {}) {

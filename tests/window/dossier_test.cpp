@@ -10,8 +10,6 @@
 #include <sys/stat.h>
 #include <zlib.h>
 
-#include "dossier_essai.h"
-#include "files/format.h"
 #include "files/historique.h"
 #include "platform/qt/bureau/dossier_donnees.h"
 #include "platform/qt/bureau/ligne_de_commande.h"
