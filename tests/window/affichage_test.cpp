@@ -23,7 +23,6 @@ TEST(Affichage, LaFenêtreTientDansLÉcranLibre) {
         {{1024, 768}, {}, {1024, 768}},
         {{1366, 740}, {0, 37, 0, 0}, {937, 703}},
         {{1024, 768}, {4, 30, 4, 4}, {978, 734}},
-        {{1366, 700}, {}, {933, 700}},
         {{640, 1024}, {}, {640, 480}}})
     EXPECT_EQ(TailleQuiTient({1024, 768}, libre, cadre), attendue) << libre.width();
 }

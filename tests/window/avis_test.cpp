@@ -32,7 +32,6 @@ TEST(Avis, LeMessageHorsLigneTientEntierDansSonÉtiquette) {
   table.t.Fenêtre.NonConnectéPic.Visible = true;
   table.fenêtre.Synchronise();
   QWidget *étiquette = table.Vue(table.t.Fenêtre.NonConnectéLbl);
-  ASSERT_EQ(étiquette->width(), 385);
   const QImage image = étiquette->grab().toImage().scaled(étiquette->size());
   const auto [gauche, droite] = ÉtendueDuTexte(image);
   EXPECT_GE(gauche, 4) << "the first letters are cut off";
