@@ -111,8 +111,12 @@ TEST(Accessibilité, UneDonneSeSuitÀLOreille) {
       {&f.LabelPaie[22], "MégaBytes, niveau 2 contre GigaOctets : "},
       {&f.LabelPaie[27], "Bibi, niveau 1 contre MicroProc : "},
       {&f.EnchèreLabel[4], "GigaOctets, niveau 2 : "}};
+  // A label left empty by the deal (a level of no class) says nothing.
   for (const auto &[c, début] : nommés)
-    EXPECT_EQ(Nom(table, *c), début + Texte(c->Caption).simplified()) << c->Nom;
+    EXPECT_EQ(Nom(table, *c), c->genre == Genre::Étiquette && c->Caption.empty()
+                                  ? QString()
+                                  : début + Texte(c->Caption).simplified())
+        << c->Nom;
 
   table.Clic(f.VoirOrdi[0]);
   EXPECT_EQ(table.fenêtre.focusWidget(), résumé);
