@@ -110,6 +110,7 @@ TEST(DossierDesDonnées, PortableOuCopiéChezLeJoueurAuPremierLancement) {
 
 TEST(LigneDeCommande, AideEtVersionSeulement) {
   const std::tuple<const char *, std::optional<int>, const char *> cas[] = {
+      {"--help", 0, "Utilisation : troisniveaux"},
       {nullptr, std::nullopt, ""},
       {"--plein-écran", 2, "option inconnue « --plein-écran »"},
       {"Noms", 2, "argument inattendu « Noms »"}};
