@@ -12,14 +12,6 @@ namespace {
 std::vector<float> Hauteurs(const TroisNiveaux &t) {
   return {std::begin(t.EtoileY) + 1, std::end(t.EtoileY)};
 }
-// The most ticks any star that did not wrap went down between two pictures.
-double TicksAuPlus(const TroisNiveaux &t, const std::vector<float> &avant) {
-  double plus = 0;
-  for (int i = 1; i <= 50; ++i)
-    if (t.EtoileY[i] >= avant[i - 1])
-      plus = std::max<double>(plus, (t.EtoileY[i] - avant[i - 1]) / t.EtoileVitesse[i]);
-  return plus;
-}
 } // namespace
 
 TEST(Étoiles, TombentQuandLaFenêtreSeVoitEtReprennentOùEllesÉtaient) {
@@ -38,7 +30,11 @@ TEST(Étoiles, TombentQuandLaFenêtreSeVoitEtReprennentOùEllesÉtaient) {
     f.showNormal();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&f));
     ASSERT_TRUE(QTest::qWaitFor([&] { return Hauteurs(table.t) != avant; }, 2000));
-    // The time hidden is not made up for in one jump.
-    EXPECT_LT(TicksAuPlus(table.t, avant), 12);
+    // The time hidden is not made up for in one jump: no star that did not
+    // wrap went down by more than a few ticks.
+    for (int i = 1; i <= 50; ++i)
+      EXPECT_LT(std::max<float>(0, table.t.EtoileY[i] - avant[i - 1]) / table.t.EtoileVitesse[i],
+                12)
+          << i;
   }
 }

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
-#include <gtest/gtest.h>
 
 #include <QAccessible>
 #include <QApplication>
@@ -9,84 +8,53 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSettings>
-#include <QTest>
 #include <QTimer>
-#include <QXmlStreamReader>
 
 #include "platform/qt/bureau/langue.h"
 #include "platform/qt/bureau/messages.h"
 #include "platform/qt/fenetre/accessibilite.h"
-#include "platform/qt/fenetre/images.h"
 #include "platform/qt/fenetre/vue_controle.h"
 #include "table_essai.h"
 
-// At the start the panels wear their colours and GO waits hidden; JOUER
-// shows the human's cards and the computers' backs, Enter on a hidden GO
-// does nothing, and GO leads to the showdown.
-TEST(Fenêtre, JouerMontreLesCartesDeLHumainPuisGOLaRéponse) {
-  Table table;
-  auto &f = table.t.Fenêtre;
-  EXPECT_EQ(table.fenêtre.size(), QSize(1024, 768));
-  EXPECT_EQ(table.Pixel(f.SSJoueur[1], {200, 3}), QColor(0, 0xC0, 0));
-  EXPECT_EQ(table.Pixel(f.MenuSS, {2, 2}), QColor(0x80, 0x80, 0x80));
-  EXPECT_EQ(table.Pixel(f.TempsFondSS, {255, 20}), QColor(0xFF, 0xC0, 0x80));
-  EXPECT_FALSE(table.Vue(f.CartesJeu[40])->isEnabled());
-  table.Touche(Qt::Key_Return);
-  EXPECT_FALSE(table.Vue(f.Joue)->isVisible());
-  EXPECT_EQ(f.CartesJeu[39].Picture, PasDeCarte) << "GO is hidden: Enter does nothing";
-  table.Clic(f.NouveauJeu);
-  ASSERT_TRUE(table.Vue(f.Joue)->isVisible());
-  for (int c = 0; c <= 51; ++c)
-    EXPECT_EQ(f.CartesJeu[c].Picture, c < 39 ? PasDeCarte : table.t.Mains[3][c - 39]) << c;
-  table.Touche(Qt::Key_Return);
-  EXPECT_FALSE(table.Vue(f.Joue)->isVisible());
-  EXPECT_NE(f.CartesJeu[0].Picture, PasDeCarte);
-  EXPECT_TRUE(table.Vue(f.VoirOrdi[0])->isVisible());
-}
-
-// Whether every widget stands shown or hidden, live or off, as its control.
-::testing::AssertionResult SuitLeModèle(FenêtreTable &fenêtre) {
-  std::string écarts;
-  fenêtre.PourChaqueVue([&](const Contrôle &c, QWidget *vue) {
-    if (vue->isHidden() == c.Visible || vue->testAttribute(Qt::WA_ForceDisabled) == c.Enabled)
-      écarts += " " + c.Nom;
-  });
-  if (écarts.empty())
-    return ::testing::AssertionSuccess();
-  return ::testing::AssertionFailure() << "out of line:" << écarts;
-}
-
-// A session as a player makes it, every step through the widgets: deals in
-// both modes, the solution view, a replay, the names panel and the book.
+// A session as a player makes it, every step through the widgets, each of
+// which stands shown or hidden, live or off, as its control: deals in both
+// modes, the solution view, a replay, the names panel and the book. Enter
+// does nothing while GO is hidden.
 TEST(Fenêtre, UneSessionAuComplet) {
   Table table;
   auto &f = table.t.Fenêtre;
-  const auto étape = [&](const Contrôle &c) {
-    ASSERT_TRUE(table.Vue(c)->isVisible() && table.Vue(c)->isEnabled()) << c.Nom;
-    table.Clic(c);
-    EXPECT_TRUE(SuitLeModèle(table.fenêtre)) << "after " << c.Nom;
-  };
+  EXPECT_EQ(table.Pixel(f.TempsFondSS, {255, 20}), QColor(0xFF, 0xC0, 0x80));
+  table.Touche(Qt::Key_Return);
+  EXPECT_FALSE(f.VoirOrdi[0].Visible);
   for (const Contrôle *c :
        {&f.NouveauJeu, &f.Joue, &f.VoirOrdi[0], &f.VoirOrdi[1], &f.Mode, &f.NouveauJeu, &f.Joue,
         &f.Rejoue, &f.Mode, &f.NomsJoueurs, &f.AnnuleNoms, &f.VoirRègles[0], &f.TextScroll[1],
-        &f.VoirRègles[1], &f.NouveauJeu, &f.Joue})
-    étape(*c);
-  EXPECT_EQ(f.Mode.Caption, "DEBUTANT");
-  int somme = 0;
-  for (int s = 0; s <= 3; ++s)
-    somme += std::stoi(f.ScoreLabel[s].Caption);
-  EXPECT_EQ(somme, 0) << "the points add up to zero";
+        &f.VoirRègles[1], &f.NouveauJeu, &f.Joue}) {
+    ASSERT_TRUE(table.Vue(*c)->isVisible() && table.Vue(*c)->isEnabled()) << c->Nom;
+    table.Clic(*c);
+    table.fenêtre.PourChaqueVue([&](const Contrôle &m, QWidget *vue) {
+      EXPECT_TRUE(vue->isHidden() != m.Visible &&
+                  vue->testAttribute(Qt::WA_ForceDisabled) != m.Enabled)
+          << m.Nom << " after " << c->Nom;
+    });
+  }
 }
 
-// Outside a search the bar and Entrée hurry nothing: the next search keeps
-// its pace. In the middle of it STOP (clicked or by Échap) cuts it short and
-// the table waits; QUITTER or the close box unwind the nested loops and the
+// A deal played flat out, then replayed at its pace (32 s in DEBUTANT); the
+// bar and Entrée hurry nothing outside a search. In the middle of it STOP
+// (clicked or by Échap) cuts it short and the table waits; Entrée, a click
+// on the bar or a reader's action on it hurry it to the same rows and its
+// showdown; QUITTER or the close box unwind the nested loops and the
 // application's loop ends with status 0. The window answers all along.
 TEST(Fenêtre, UnBalayageRythméSArrêteOuFinitAussitôt) {
-  enum Façon { Stop, Échap, Quitter, Croix };
-  for (const Façon façon : {Stop, Échap, Quitter, Croix}) {
+  enum Façon { Stop, Échap, Entrée, Barre, Lecteur, Quitter, Croix };
+  for (const Façon façon : {Stop, Échap, Entrée, Barre, Lecteur, Quitter, Croix}) {
     Table table;
     auto &f = table.t.Fenêtre;
+    table.Clic(f.NouveauJeu);
+    table.Clic(f.Joue);
+    const auto rangements = std::to_array(table.t.MeilleurRangement);
+    ASSERT_GT(rangements[3], 0) << "DEBUTANT searches the human's cards too";
     table.Clic(f.TempsFondSS);
     table.Touche(Qt::Key_Return);
     EXPECT_FALSE(table.plateforme.pressé);
@@ -96,13 +64,19 @@ TEST(Fenêtre, UnBalayageRythméSArrêteOuFinitAussitôt) {
       EXPECT_TRUE(f.Arrêt.Enabled && !f.NouveauJeu.Enabled);
       if (façon == Stop)
         table.Clic(f.Arrêt);
-      else if (façon == Échap)
-        table.Touche(Qt::Key_Escape);
+      else if (façon == Échap || façon == Entrée)
+        table.Touche(façon == Échap ? Qt::Key_Escape : Qt::Key_Return);
+      else if (façon == Barre)
+        table.Clic(f.TempsFondSS);
+      else if (façon == Lecteur)
+        QAccessible::queryAccessibleInterface(table.Vue(f.TempsShape))
+            ->actionInterface()
+            ->doAction("hurry");
       else
         façon == Croix ? static_cast<void>(table.fenêtre.close()) : table.Clic(f.Fin);
     });
     QTimer::singleShot(0, [&] {
-      table.Clic(f.NouveauJeu);
+      table.Clic(f.Rejoue);
       if (façon < Quitter)
         QCoreApplication::quit();
     });
@@ -111,12 +85,16 @@ TEST(Fenêtre, UnBalayageRythméSArrêteOuFinitAussitôt) {
     EXPECT_EQ(QApplication::exec(), 0);
     EXPECT_LT(chrono.elapsed(), 3000) << façon;
     EXPECT_LT(table.plateforme.plusLongSansÉvénements, 100);
-    if (façon >= Quitter) {
+    if (façon >= Quitter)
       EXPECT_TRUE(table.t.SessionTerminée && table.plateforme.quitté) << façon;
-    } else {
-      EXPECT_FALSE(f.Arrêt.Enabled || table.Vue(f.Joue)->isVisible());
-      EXPECT_TRUE(table.Vue(f.NouveauJeu)->isEnabled());
-    }
+    else if (façon >= Entrée)
+      EXPECT_TRUE(table.plateforme.pressé && f.VoirOrdi[0].Visible &&
+                  std::to_array(table.t.MeilleurRangement) == rangements)
+          << façon;
+    else
+      EXPECT_TRUE(!f.Arrêt.Enabled && !table.Vue(f.Joue)->isVisible() &&
+                  table.Vue(f.NouveauJeu)->isEnabled())
+          << façon;
   }
 }
 
@@ -125,58 +103,29 @@ TEST(Fenêtre, UnBalayageRythméSArrêteOuFinitAussitôt) {
 TEST(Langues, ChaqueTexteALaTraductionAnglaise) {
   QFile fichier(TN_DOSSIER_I18N "/troisniveaux_en.ts");
   ASSERT_TRUE(fichier.open(QIODevice::ReadOnly));
-  QXmlStreamReader xml(&fichier);
-  QString source;
-  int messages = 0;
   const auto marques = [](const QString &texte) {
     QStringList liste;
     for (const auto &m : QRegularExpression("%\\d").globalMatch(texte))
       liste << m.captured();
     return liste.sort(), liste;
   };
-  while (!xml.atEnd())
-    if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == u"source") {
-      source = xml.readElementText(QXmlStreamReader::IncludeChildElements);
-    } else if (xml.isStartElement() && xml.name() == u"translation") {
-      ++messages;
-      const bool finie = xml.attributes().value("type").isEmpty();
-      const QString traduction = xml.readElementText(QXmlStreamReader::IncludeChildElements);
-      EXPECT_TRUE(finie && !traduction.trimmed().isEmpty()) << source.toStdString();
-      EXPECT_EQ(marques(traduction), marques(source)) << source.toStdString();
-    }
-  EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
+  // Each message: its source, then its translation's attributes and text.
+  const QRegularExpression message(
+      "<source>(.*?)</source>.*?<translation([^>]*)>(.*?)</translation>",
+      QRegularExpression::DotMatchesEverythingOption);
+  int messages = 0;
+  for (const auto &m : message.globalMatch(QString::fromUtf8(fichier.readAll()))) {
+    ++messages;
+    EXPECT_TRUE(m.captured(2).isEmpty() && !m.captured(3).trimmed().isEmpty())
+        << m.captured(1).toStdString();
+    EXPECT_EQ(marques(m.captured(3)), marques(m.captured(1))) << m.captured(1).toStdString();
+  }
   EXPECT_GT(messages, 60);
 }
 
-// In English every button's caption fits its button, the table small or
-// large, and every page of the book fits the book.
-TEST(Langues, EnAnglaisLesTextesTiennentDansLeurPlace) {
-  Table table;
-  ASSERT_TRUE(ParleLangue("en"));
-  auto &f = table.t.Fenêtre;
-  for (const double échelle : {1.0, 1.6, 2.5})
-    table.fenêtre.PourChaqueVue([&](const Contrôle &c, QWidget *) {
-      if (c.genre != Genre::Bouton || c.Caption.empty())
-        return;
-      const int place = Pixels(c.Width, échelle) - 4 * static_cast<int>(std::lround(échelle));
-      EXPECT_LE(QFontMetrics(PoliceQt(c.police, échelle)).horizontalAdvance(TexteAffiché(c)), place)
-          << c.Nom << " at " << échelle;
-    });
-  const QFont police = PoliceQt(f.AfficheRègles.police, 1);
-  const QRect livre(0, 0, Pixels(f.AfficheRègles.Width, 1) - 2, Pixels(f.AfficheRègles.Height, 1));
-  for (int page = 0; page < 14; ++page) {
-    f.AfficheRègles.Caption = table.t.TextesRègles[page];
-    EXPECT_LE(QFontMetrics(police)
-                  .boundingRect(livre, Qt::TextWordWrap, TexteAffiché(f.AfficheRègles))
-                  .height(),
-              livre.height())
-        << "page " << page + 1;
-  }
-  ParleLangue("fr");
-}
-
 // F12 changes the language at once, every text drawn again, and keeps the
-// choice; back in French the table is as it was, pixel for pixel.
+// choice; the English fits its places. Back in French the table is as it
+// was, pixel for pixel.
 TEST(Langues, F12ChangeDeLangueEtRedessineTout) {
   Table table;
   auto &f = table.t.Fenêtre;
@@ -205,16 +154,32 @@ TEST(Langues, F12ChangeDeLangueEtRedessineTout) {
   EXPECT_EQ(TexteAffiché(f.NouveauJeu), "PLAY");
   EXPECT_EQ(fermer->text(), "CLOSE");
   EXPECT_EQ(table.Vue(f.NouveauJeu)->toolTip(), "PLAY — F2 key");
-  EXPECT_EQ(NomDeCarte(34), "ten of hearts");
   EXPECT_EQ(lu(carte), NomDeCarte(f.CartesJeu[39].Picture) + ", level 1");
-  EXPECT_EQ(lu(table.Vue(f.NouveauJeu)), "PLAY");
   EXPECT_EQ(lu(table.Vue(f.NomsJoueursText[1])->findChild<QLineEdit *>()), "Name of player 2");
-  EXPECT_TRUE(lu(résumé).startsWith("End of the deal. MicroProc: ") &&
-              lu(résumé).contains("deal total"))
-      << lu(résumé).toStdString();
+  EXPECT_TRUE(lu(résumé).startsWith("End of the deal. MicroProc: ")) << lu(résumé).toStdString();
   EXPECT_NE(table.Vue(f.NiveauLabel[0])->width(), niveau) << "LEVEL 1 is narrower";
   const auto anglais = image();
   EXPECT_TRUE(anglais.first != français.first && anglais.second != français.second);
+  // Every button's caption fits its button, the table small or large, and
+  // every page of the book fits the book.
+  for (const double échelle : {1.0, 1.6, 2.5})
+    table.fenêtre.PourChaqueVue([&](const Contrôle &c, QWidget *) {
+      if (c.genre != Genre::Bouton || c.Caption.empty())
+        return;
+      const int place = Pixels(c.Width, échelle) - 4 * static_cast<int>(std::lround(échelle));
+      EXPECT_LE(QFontMetrics(PoliceQt(c.police, échelle)).horizontalAdvance(TexteAffiché(c)), place)
+          << c.Nom << " at " << échelle;
+    });
+  Contrôle page = f.AfficheRègles;
+  const QFont police = PoliceQt(page.police, 1);
+  const QRect livre(0, 0, Pixels(page.Width, 1) - 2, Pixels(page.Height, 1));
+  for (int n = 0; n < 14; ++n) {
+    page.Caption = table.t.TextesRègles[n];
+    EXPECT_LE(
+        QFontMetrics(police).boundingRect(livre, Qt::TextWordWrap, TexteAffiché(page)).height(),
+        livre.height())
+        << "page " << n + 1;
+  }
   table.Touche(Qt::Key_F12);
   QCoreApplication::processEvents();
   EXPECT_EQ(LangueParlée(), "fr");

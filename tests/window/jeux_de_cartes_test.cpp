@@ -2,7 +2,6 @@
 // SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
 // Card decks: every installed deck draws, a broken one leaves the game's own,
 // F8 puts the chosen deck on the table and the choice outlives the session.
-#include <gtest/gtest.h>
 
 #include <QDir>
 #include <QLabel>
@@ -11,7 +10,6 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <algorithm>
-#include <numeric>
 
 #include "platform/qt/bureau/reglages.h"
 #include "platform/qt/fenetre/images.h"
@@ -43,60 +41,44 @@ public:
 // The colour that the test decks give a card: one per code.
 QColor Teinte(int code) { return QColor::fromHsv((code * 37) % 360, 200, 60 + code * 3); }
 
-// A deck folder whose SVG has one plain rectangle per element named, of the
-// card's own colour.
+// A deck folder: its index, naming `fichier`, and that file when given.
 void ÉcritJeu(const QDir &racine, const QString &dossier, const QString &nomFr,
-              const std::vector<int> &codes, const QByteArray &svgBrut = {}, int largeur = 100) {
+              const QByteArray &svg, const QString &fichier = "jeu.svg") {
   racine.mkpath(dossier);
   const QDir d(racine.filePath(dossier));
   QFile index(d.filePath("index.desktop"));
   EXPECT_TRUE(index.open(QIODevice::WriteOnly));
   index.write("[KDE Backdeck]\nName=Test " + dossier.toUtf8() + "\nName[fr]=" + nomFr.toUtf8() +
-              "\nSVG=jeu.svg\n\n[Autre]\nName=ignored\n");
-  QByteArray svg = svgBrut;
-  if (svg.isEmpty()) {
-    svg = "<svg xmlns='http://www.w3.org/2000/svg' width='6000' height='150'>";
-    for (int code : codes)
-      svg += QString("<rect id='%1' x='%2' y='0' width='%4' height='150' fill='%3'/>")
+              "\nSVG=" + fichier.toUtf8() + "\n\n[Autre]\nName=ignored\n");
+  QFile contenu(d.filePath(fichier));
+  if (!svg.isEmpty() && contenu.open(QIODevice::WriteOnly))
+    contenu.write(svg);
+}
+
+// A deck with one plain rectangle per element, of the card's own colour,
+// narrower than the game's slots; no jokers, and no aces when asked.
+QByteArray Svg(bool sansAs = false) {
+  QByteArray svg = "<svg xmlns='http://www.w3.org/2000/svg' width='6000' height='150'>";
+  for (int code = 0; code <= 54; ++code)
+    if (code != 52 && code != 53 && !(sansAs && code % 13 == 12))
+      svg += QString("<rect id='%1' x='%2' y='0' width='60' height='150' fill='%3'/>")
                  .arg(ÉlémentDeCarte(code))
                  .arg(code * 110)
                  .arg(Teinte(code).name())
-                 .arg(largeur)
                  .toUtf8();
-    svg += "</svg>";
-  }
-  QFile fichier(d.filePath("jeu.svg"));
-  EXPECT_TRUE(fichier.open(QIODevice::WriteOnly));
-  fichier.write(svg);
+  return svg + "</svg>";
 }
 
-std::vector<int> Codes(int dernier) {
-  std::vector<int> codes(dernier + 1);
-  std::iota(codes.begin(), codes.end(), 0);
-  return codes;
-}
-
-// Three decks: a whole one without jokers, one that is not SVG, one without
-// its aces.
+// Three decks: a whole one, one that is not SVG, one without its aces; and
+// a deck file outside its folder, which is no deck.
 struct JeuxDEssai {
   QTemporaryDir racine;
   JeuxDEssai() {
     const QDir d(racine.path());
-    std::vector<int> sansJokers = Codes(51);
-    sansJokers.push_back(54);
-    ÉcritJeu(d, "svg-bon", "Bon jeu", sansJokers);
-    ÉcritJeu(d, "svg-casse", "Jeu cassé", {}, "pas du SVG");
-    std::vector<int> sansAs;
-    for (int c : sansJokers)
-      if (c % 13 != 12)
-        sansAs.push_back(c);
-    ÉcritJeu(d, "svg-incomplet", "Incomplet", sansAs);
-    // A deck file outside its folder is no deck.
-    d.mkpath("svg-dehors");
-    QFile index(d.filePath("svg-dehors/index.desktop"));
-    if (index.open(QIODevice::WriteOnly))
-      index.write("[KDE Backdeck]\nName=Dehors\nSVG=../svg-bon/jeu.svg\n");
-    index.close();
+    ÉcritJeu(d, "svg-bon", "Bon jeu", Svg());
+    ÉcritJeu(d, "svg-casse", "Jeu cassé", "pas du SVG");
+    ÉcritJeu(d, "svg-incomplet", "Incomplet", Svg(true));
+    ÉcritJeu(d, "svg-dehors", "Dehors", {}, "../svg-bon/jeu.svg");
     jeux::DéfinitRacines({racine.path()});
     jeux::Choisit(0);
   }
@@ -136,19 +118,13 @@ TEST(JeuxDeCartes, ChaqueJeuInstalléDessineSesCinquanteDeuxCartesEtSonDos) {
     QSet<QByteArray> différentes;
     for (int code = 0; code <= 54; ++code) {
       if (code == 52 || code == 53)
-        continue;
+        continue; // the jokers are the game's own
+      // Something is drawn, and not in one colour.
       const QImage &image = (*images)[code];
-      ASSERT_FALSE(image.isNull()) << code;
-      // Something is drawn: most of the slot is covered (some decks cut
-      // their cards out), and not in one colour.
-      int couvert = 0;
       QSet<QRgb> couleurs;
       for (int y = 0; y < image.height(); y += 3)
-        for (int x = 0; x < image.width(); x += 3) {
-          couvert += qAlpha(image.pixel(x, y)) > 0;
+        for (int x = 0; x < image.width(); x += 3)
           couleurs.insert(image.pixel(x, y));
-        }
-      EXPECT_GT(couvert, 0.3 * (image.width() / 3) * (image.height() / 3)) << code;
       EXPECT_GT(couleurs.size(), 2) << code;
       différentes.insert(
           QByteArray(reinterpret_cast<const char *>(image.constBits()), image.sizeInBytes()));
@@ -168,13 +144,9 @@ TEST(JeuxDeCartes, UnJeuIllisibleOuIncompletLaisseLeJeuDuProgramme) {
     EXPECT_EQ(jeux::Choisi(), 0) << id;
     EXPECT_TRUE(jeux::Image(0, QSize(90, 135), 1).isNull()) << id;
   }
-  // The whole deck draws its faces and back; its missing jokers are the game's own.
+  // The whole deck draws (on the table, below); its missing jokers are the game's own.
   jeux::Choisit(essai.Numéro("svg-bon"));
   jeux::AttendsLeRendu();
-  for (int code : {0, 25, 51, 54})
-    EXPECT_TRUE(
-        Proches(jeux::Image(code, QSize(90, 135), 1).toImage().pixelColor(45, 67), Teinte(code)))
-        << code;
   EXPECT_TRUE(jeux::Image(52, QSize(90, 135), 1).isNull());
   // A new size shows the nearest one stretched at once, then its own.
   EXPECT_FALSE(jeux::Image(7, QSize(135, 203), 1).isNull());
@@ -218,6 +190,16 @@ TEST(JeuxDeCartes, F8MetLeJeuSurLaTableEtLeChoixResteDUneSessionÀLAutre) {
     EXPECT_EQ(jeux::Choisi(), bon);
     EXPECT_TRUE(Proches(MilieuDe(table, f.CartesJeu[39]), Teinte(30)));
     EXPECT_TRUE(Proches(MilieuDe(table, f.CartesJeu[0]), Teinte(54)));
+    // Beside the narrow cards shows the seat's colour, never what was on
+    // screen there before (the history panel, just closed).
+    for (int fois = 0; fois < 2; ++fois) {
+      table.Touche(Qt::Key_F9);
+      QTest::qWait(50);
+    }
+    const QImage écran = table.fenêtre.screen()->grabWindow(table.fenêtre.winId()).toImage();
+    const QPoint marge = table.Vue(f.CartesJeu[10])->mapTo(&table.fenêtre, QPoint(4, 20));
+    EXPECT_EQ(écran.pixelColor(marge * écran.devicePixelRatio()),
+              Couleur(f.SSJoueurFond[0].BackColor, table.Vue(f.SSJoueurFond[0])->palette()));
   }
   EXPECT_EQ(RéglagesDuJoueur()->value("cartes/jeu").toString(), "svg-bon");
   jeux::Choisit(0);
@@ -237,29 +219,4 @@ TEST(JeuxDeCartes, F8MetLeJeuSurLaTableEtLeChoixResteDUneSessionÀLAutre) {
   EXPECT_EQ(jeux::Retrouve(), 0);
   const QImage propre = ImageBrute(PasDeCarte, QSize(90, 135), 1);
   EXPECT_EQ(MilieuDe(table, table.t.Fenêtre.CartesJeu[0]), propre.pixelColor(45, 67));
-}
-
-// A deck narrower than the slot shows the seat's colour beside its cards,
-// never what was on screen there before (the history panel, just closed).
-TEST(JeuxDeCartes, UnJeuPlusÉtroitQueLaPlaceLaisseVoirLaCouleurDuSiège) {
-  JeuxDEssai essai;
-  ÉcritJeu(QDir(essai.racine.path()), "svg-etroit", "Étroit", Codes(54), {}, 60);
-  jeux::DéfinitRacines({essai.racine.path()});
-  Table table;
-  auto &f = table.t.Fenêtre;
-  jeux::Choisit(essai.Numéro("svg-etroit"));
-  jeux::AttendsLeRendu();
-  table.Touche(Qt::Key_F9);
-  QTest::qWait(50);
-  table.Touche(Qt::Key_F9);
-  QTest::qWait(50);
-  const QImage écran = table.fenêtre.screen()->grabWindow(table.fenêtre.winId()).toImage();
-  const QColor siège =
-      Couleur(f.SSJoueurFond[0].BackColor, table.Vue(f.SSJoueurFond[0])->palette());
-  // The top row's first card: its left margin, and its middle.
-  QWidget *carte = table.Vue(f.CartesJeu[10]);
-  const qreal ratio = écran.devicePixelRatio();
-  EXPECT_EQ(écran.pixelColor(carte->mapTo(&table.fenêtre, QPoint(4, 20)) * ratio), siège);
-  EXPECT_TRUE(
-      Proches(écran.pixelColor(carte->mapTo(&table.fenêtre, QPoint(45, 20)) * ratio), Teinte(54)));
 }

@@ -8,7 +8,6 @@
 #include <QTest>
 #include <QTextBrowser>
 #include <QWidget>
-#include <functional>
 
 #include "platform/qt/panneaux/pages_web.h"
 
@@ -18,14 +17,13 @@
 
 namespace {
 
-// A tiny web server on the loopback address. By default every page it
-// serves asks for a picture of its own and one from another host, which the
-// views must refuse.
+// A tiny web server on the loopback address. Every page it serves asks for
+// a picture of its own, which it has not, and one from another host, which
+// the views must refuse; pub1.htm sends to `ailleurs` when given.
 class Serveur : public QTcpServer {
 public:
   QStringList demandes;
-  // The whole answer for a path; empty: the default page.
-  std::function<QByteArray(const QString &chemin)> réponse;
+  QByteArray ailleurs;
 
   Serveur() {
     connect(this, &QTcpServer::newConnection, this, [this] {
@@ -33,12 +31,15 @@ public:
         connect(client, &QTcpSocket::readyRead, client, [this, client] {
           const QString chemin = QString::fromLatin1(client->readAll().split(' ').value(1));
           demandes << chemin;
-          QByteArray envoi = réponse ? réponse(chemin) : QByteArray();
-          if (envoi.isEmpty())
-            envoi = Page("<html><body style='background:#000'>Publicité"
-                         "<img src='image.png'><img src='http://exemple.invalid/pixel.png'>"
-                         "</body></html>");
-          client->write(envoi);
+          if (chemin == "/image.png")
+            client->write(
+                "HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\nConnection: close\r\n\r\n");
+          else if (chemin == "/pub1.htm" && !ailleurs.isEmpty())
+            client->write("HTTP/1.1 302 Found\r\nLocation: " + ailleurs +
+                          "pub1.htm\r\nContent-Length: 0\r\nConnection: close\r\n\r\n");
+          else
+            client->write(Page("<html><body style='background:#000'>Publicité<img src='image.png'>"
+                               "<img src='http://exemple.invalid/pixel.png'></body></html>"));
           client->disconnectFromHost();
         });
       }
@@ -54,18 +55,12 @@ public:
 
 // Puts the base back whatever the test's outcome.
 struct BaseEssai {
-  QString avant = PagesWeb::Base();
   explicit BaseEssai(const QString &base) { PagesWeb::DéfinitBase(base); }
   ~BaseEssai() {
     PagesWeb::DéfinitBase("");
     PagesWeb::DéfinitDossierLocal("");
   }
 };
-
-[[maybe_unused]] QString TexteDe(QWidget *vue) {
-  auto *texte = qobject_cast<QTextBrowser *>(vue);
-  return texte ? texte->toPlainText() : QString();
-}
 
 } // namespace
 
@@ -94,14 +89,7 @@ TEST(PagesWeb, LaPageVientDuServeurSansAutreHôteNiRedirection) {
   Serveur serveur, ailleurs;
   ASSERT_TRUE(serveur.isListening());
   ASSERT_TRUE(ailleurs.isListening());
-  serveur.réponse = [&ailleurs](const QString &chemin) -> QByteArray {
-    if (chemin == "/pub1.htm")
-      return "HTTP/1.1 302 Found\r\nLocation: " + ailleurs.Base().toLatin1() +
-             "pub1.htm\r\nContent-Length: 0\r\nConnection: close\r\n\r\n";
-    if (chemin == "/image.png")
-      return "HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\nConnection: close\r\n\r\n";
-    return {};
-  };
+  serveur.ailleurs = ailleurs.Base().toLatin1();
   BaseEssai base(serveur.Base());
   QWidget pub0, pub1;
   PagesWeb pages(&pub0, &pub1, nullptr);
@@ -109,13 +97,17 @@ TEST(PagesWeb, LaPageVientDuServeurSansAutreHôteNiRedirection) {
   pages.Navigue(VueWeb::Pub0Web, "pub0.htm");
   pages.Navigue(VueWeb::Pub1Web, "pub1.htm");
   pub0.show();
-  QTRY_VERIFY_WITH_TIMEOUT(TexteDe(pages.Vue(VueWeb::Pub0Web)).contains("Publicité"), 10000);
+  const auto texte = [&](VueWeb vue) {
+    auto *page = qobject_cast<QTextBrowser *>(pages.Vue(vue));
+    return page ? page->toPlainText() : QString();
+  };
+  QTRY_VERIFY_WITH_TIMEOUT(texte(VueWeb::Pub0Web).contains("Publicité"), 10000);
   QTRY_VERIFY_WITH_TIMEOUT(serveur.demandes.contains("/image.png"), 10000);
   QTRY_VERIFY_WITH_TIMEOUT(serveur.demandes.contains("/pub1.htm"), 10000);
   QTest::qWait(300);
   EXPECT_GT(PagesWeb::Refusées(), refuséesAvant) << "the other host's picture";
   EXPECT_TRUE(ailleurs.demandes.isEmpty()) << "a redirect is not followed";
-  EXPECT_TRUE(TexteDe(pages.Vue(VueWeb::Pub1Web)).isEmpty());
+  EXPECT_TRUE(texte(VueWeb::Pub1Web).isEmpty());
   EXPECT_EQ(serveur.demandes.count("/pub0.htm"), 1);
 }
 
