@@ -41,8 +41,17 @@ fi
 # No fallback: without the Wayland plugin Qt stops at once.
 export WAYLAND_DISPLAY=tn-wayland QT_QPA_PLATFORM=wayland
 unset DISPLAY
-"$construction/troisniveaux-tests-fenetre" --gtest_brief=1 \
-  --gtest_filter='Fenêtre.UneSessionAuComplet:Fenêtre.QuitterOuFermerPendantLeBalayageFinitLaSession:Échelle.LaTableGrandiEnEntierAuMilieuDuNoir:Échelle.LaFenêtreRouvre*:Avis.SansModeÀRéglerAucunDialogue'
+# Named in full and counted, so that a renamed test fails here rather than
+# dropping silently out of the Wayland run.
+essais=(Fenêtre.UneSessionAuComplet Fenêtre.UnBalayageRythméSArrêteOuFinitAussitôt
+  Échelle.LaTableGrandiEnEntierAuMilieuDuNoir Échelle.LesClicsEtLesDessinsSuiventLaTaille
+  Échelle.LaFenêtreRouvreÀLaTailleOùLeJoueurLAQuittéeSiElleTient Avis.SansModeÀRéglerAucunDialogue)
+filtre=$(IFS=:; echo "${essais[*]}")
+"$construction/troisniveaux-tests-fenetre" --gtest_brief=1 --gtest_filter="$filtre" | tee "$dossier/essais.log"
+if ! grep -q "^\[  PASSED  \] ${#essais[@]} tests\." "$dossier/essais.log"; then
+  echo "Wayland : ${#essais[@]} tests de fenêtre attendus, pas tous lancés ou réussis." >&2
+  exit 1
+fi
 
 # The game as a player starts it, in a home of its own; SIGTERM ends the
 # session the game's own way (status 128 + 15).
