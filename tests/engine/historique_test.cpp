@@ -8,41 +8,8 @@
 #include "files/historique.h"
 #include "partie_essai.h"
 
-namespace {
-
-historique::Entrée Donne(const std::string &date, uint8_t mode, std::array<int32_t, 4> totaux,
-                         std::array<int32_t, 4> scores) {
-  historique::Entrée e;
-  e.date = date;
-  e.mode = mode;
-  std::copy(totaux.begin(), totaux.end(), e.totaux);
-  std::copy(scores.begin(), scores.end(), e.scores);
-  return e;
-}
-
-historique::Entrée Remise(const std::string &date) {
-  historique::Entrée e;
-  e.date = date;
-  e.remise = true;
-  return e;
-}
-
-} // namespace
-
-TEST(Historique, LesLignesFontLAllerRetour) {
-  const historique::Entrée entrées[] = {
-      Donne("2026-11-23 21:04:05", 0, {-5, 21, -7, -9}, {-5, 21, -7, -9}),
-      Donne("2026-01-01 00:00:00", 1, {18, -6, -6, -6}, {2147483647, -2147483647 - 1, 0, 12}),
-      Remise("2026-12-31 23:59:59")};
-  for (const auto &e : entrées) {
-    const std::string ligne = historique::Ligne(e);
-    ASSERT_TRUE(ligne.ends_with("\r\n")) << ligne;
-    EXPECT_EQ(historique::LitLigne(ligne), e) << ligne;
-  }
-  EXPECT_EQ(historique::Ligne(entrées[0]),
-            "2026-11-23 21:04:05;EXPERT;-5;21;-7;-9;-5;21;-7;-9\r\n");
-  EXPECT_EQ(historique::Ligne(entrées[2]), "2026-12-31 23:59:59;SCORES A 0\r\n");
-}
+using historique::Entrée;
+const Entrée Remise{.date = "2026-11-24 08:00:00", .remise = true};
 
 TEST(Historique, UnFichierAbîméSeLitSansLesLignesFautives) {
   DossierEssai d;
@@ -73,7 +40,7 @@ TEST(Historique, UnFichierAbîméSeLitSansLesLignesFautives) {
   EXPECT_FALSE(historique::Lit(d.Chemin() + "/Dossier").trouvé);
 
   // The next write keeps the good lines and drops the rest.
-  ASSERT_TRUE(historique::Ajoute(Remise("2026-11-24 08:00:00"), d.Chemin() + "/Historique"));
+  ASSERT_TRUE(historique::Ajoute(Remise, d.Chemin() + "/Historique"));
   EXPECT_EQ(d.Lit("Historique"), bonne + bonne + "2026-11-24 08:00:00;SCORES A 0\r\n");
 }
 
@@ -82,10 +49,10 @@ TEST(Historique, LeFichierGardeSesDernièresLignes) {
   const std::string nom = d.Chemin() + "/Historique";
   std::string octets;
   for (std::size_t n = 0; n < historique::LignesGardées; ++n)
-    octets += historique::Ligne(
-        Donne("2026-11-23 21:04:05", 1, {int32_t(n), 0, 0, -int32_t(n)}, {0, 0, 0, 0}));
+    octets +=
+        historique::Ligne(Entrée{"2026-11-23 21:04:05", false, 1, {int32_t(n), 0, 0, -int32_t(n)}});
   d.Écrit("Historique", octets);
-  ASSERT_TRUE(historique::Ajoute(Remise("2026-11-24 08:00:00"), nom));
+  ASSERT_TRUE(historique::Ajoute(Remise, nom));
   const auto lecture = historique::Lit(nom);
   ASSERT_EQ(lecture.entrées.size(), historique::LignesGardées);
   EXPECT_EQ(lecture.entrées.front().totaux[0], 1) << "the oldest line went";
@@ -93,7 +60,7 @@ TEST(Historique, LeFichierGardeSesDernièresLignes) {
 
   // A crash in the rename leaves the old file whole and a leftover that the
   // next start clears.
-  ASSERT_TRUE(TuéAuRenommage([&] { historique::Ajoute(Remise("2026-11-25 08:00:00"), nom); }));
+  ASSERT_TRUE(TuéAuRenommage([&] { historique::Ajoute(Remise, nom); }));
   EXPECT_EQ(historique::Lit(nom).entrées.size(), historique::LignesGardées);
   const auto Restes = [&] {
     return std::distance(std::filesystem::directory_iterator(d.Chemin()), {});
@@ -109,11 +76,11 @@ TEST(Historique, LeFichierGardeSesDernièresLignes) {
 }
 
 TEST(Historique, LesChiffresDeChaqueSiège) {
-  const std::vector<historique::Entrée> entrées = {
-      Donne("2026-11-23 21:00:00", 1, {-5, 21, -7, -9}, {-5, 21, -7, -9}),
-      Donne("2026-11-23 21:05:00", 0, {18, -6, -6, -6}, {13, 15, -13, -15}),
-      Remise("2026-11-23 21:06:00"),
-      Donne("2026-11-23 21:09:00", 1, {2, 0, 1, -3}, {2, 0, 1, -3}),
+  const std::vector<Entrée> entrées = {
+      {"2026-11-23 21:00:00", false, 1, {-5, 21, -7, -9}, {-5, 21, -7, -9}},
+      {"2026-11-23 21:05:00", false, 0, {18, -6, -6, -6}, {13, 15, -13, -15}},
+      Remise,
+      {"2026-11-23 21:09:00", false, 1, {2, 0, 1, -3}, {2, 0, 1, -3}},
   };
   const historique::Figures f = historique::Calcule(entrées);
   EXPECT_TRUE(f.donnes == 3 && f.remises == 1 && f.sièges[0].donnes == 3);
