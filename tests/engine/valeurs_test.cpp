@@ -26,50 +26,9 @@ template <size_t N> void Pose(uint8_t (&niveau)[N], const std::string &texte) {
 
 const double RienAs = 12 + 11 / 15.0 + 10 / 150.0 + 9 / 1500.0 + 7 / 15000.0; // A R D V 9
 
-TEST(Résultat, CinqCartesDansLeBalayage) {
-  struct Cas {
-    const char *cartes;
-    double niveau1, niveau2;
-    int rangHaut, rangBas;
-  };
-  const Cas cas[] = {
-      {"2♣ 3♦ 4♥ 5♠ 7♣", 5.214, 5, 13, 13}, // RIEN: the top rank alone on level 2
-      {"D♣ R♦ A♥ 2♠ 3♣", 12 + 11 / 15.0 + 10 / 150.0 + 1 / 1500.0, 12, 13,
-       13},                                 // no straight round the ace
-      {"A♣ 2♦ 3♥ 4♠ 5♣", 383, 383, 13, 13}, // the lowest straight: its top is the 5
-      {"R♣ R♦ 9♥ 5♠ 2♣", 111, 111, 11, 13},
-      {"A♣ A♦ R♥ R♠ 2♣", 212, 212, 12, 11},
-      {"A♣ A♦ 3♥ 3♠ 2♣", 212, 212, 12, 1},
-      {"7♣ 7♦ 7♥ 4♠ 2♣", 355, 355, 5, 13},
-      {"A♣ 2♦ A♥ 2♠ A♦", 612, 612, 12, 0}, // the 2s are met first as a pair
-      {"2♣ 2♦ 2♥ A♠ A♣", 600, 600, 0, 12},
-      {"2♣ 2♦ 2♥ 2♠ A♣", 1000, 1000, 0, 13},
-  };
-  SessionEssai s(1, false);
-  for (const auto &c : cas) {
-    Pose(s.t.Niveau1, c.cartes);
-    Pose(s.t.Niveau2, c.cartes);
-    s.t.Résultat2();
-    s.t.Résultat1();
-    EXPECT_DOUBLE_EQ(s.t.Valeur1, c.niveau1) << c.cartes;
-    EXPECT_DOUBLE_EQ(s.t.Valeur2, c.niveau2) << c.cartes;
-    EXPECT_EQ(s.t.RangHaut, c.rangHaut) << c.cartes;
-    EXPECT_EQ(s.t.RangBas, c.rangBas) << c.cartes;
-  }
-  // Five equal codes make no group, and one suit. Codes past 51 weigh as
-  // spades: a pair of one suit then takes the stronger class's value.
-  const uint8_t égaux[5] = {0, 0, 0, 0, 0}, abîmés[5] = {39, 52, 41, 44, 50};
-  std::copy(égaux, égaux + 5, s.t.Niveau1);
-  s.t.Résultat1();
-  EXPECT_EQ(s.t.Valeur1, 500);
-  std::copy(abîmés, abîmés + 5, s.t.Niveau1);
-  s.t.Résultat1();
-  EXPECT_TRUE(s.t.EstPaire && s.t.EstFlush);
-  EXPECT_DOUBLE_EQ(s.t.Valeur1, 511 + 5 / 15.0 + 2 / 150.0);
-}
-
 // Every five-card set of the deck: the classes fall in the known counts and
-// keep to their bands of values; level 2 differs only on RIEN.
+// keep to their bands of values; level 2 differs only on RIEN, where the top
+// rank alone counts.
 TEST(Résultat, LesDeuxMillionsDeMainsDeCinq) {
   SessionEssai s(1, false);
   struct Bande {
@@ -108,6 +67,25 @@ TEST(Résultat, LesDeuxMillionsDeMainsDeCinq) {
     EXPECT_EQ(classes[nom].nombre, b.nombre) << nom;
     EXPECT_DOUBLE_EQ(classes[nom].bas, b.bas) << nom;
     EXPECT_DOUBLE_EQ(classes[nom].haut, b.haut) << nom;
+  }
+
+  // Inside a class: RIEN by its kickers (no straight round the ace), a pair
+  // or three by its rank, two pairs by the higher alone, a full house by its
+  // three, the 2s being met first as a pair. Five equal codes make no group,
+  // and one suit; codes past 51 weigh as spades, so a pair of one suit takes
+  // the stronger class's value.
+  const std::pair<std::vector<int>, double> valeurs[] = {
+      {Cartes("D♣ R♦ A♥ 2♠ 3♣"), 12 + 11 / 15.0 + 10 / 150.0 + 1 / 1500.0},
+      {Cartes("R♣ R♦ 9♥ 5♠ 2♣"), 111},
+      {Cartes("A♣ A♦ 3♥ 3♠ 2♣"), 212},
+      {Cartes("7♣ 7♦ 7♥ 4♠ 2♣"), 355},
+      {Cartes("A♣ 2♦ A♥ 2♠ A♦"), 612},
+      {{0, 0, 0, 0, 0}, 500},
+      {{39, 52, 41, 44, 50}, 511 + 5 / 15.0 + 2 / 150.0}};
+  for (const auto &[codes, valeur] : valeurs) {
+    std::copy(codes.begin(), codes.end(), s.t.Niveau1);
+    s.t.Résultat1();
+    EXPECT_DOUBLE_EQ(s.t.Valeur1, valeur) << codes[0] << " " << codes[1];
   }
 }
 
