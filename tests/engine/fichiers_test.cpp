@@ -29,23 +29,6 @@ private:
   rlimit avant{};
 };
 
-// A session started on these Noms and Scores bytes.
-struct Relue {
-  PlateformeSansFenêtre plateforme;
-  TroisNiveaux t{plateforme};
-  Relue(const DossierEssai &d, const std::string &noms, const std::string &scores)
-      : plateforme(d.Chemin()) {
-    d.Écrit("Noms", noms);
-    d.Écrit("Scores", scores);
-    t.Form_Load();
-  }
-};
-
-std::string SansRetours(std::string octets) {
-  std::erase(octets, '\r');
-  return octets;
-}
-
 } // namespace
 
 // Names as long as a box takes (the file then passes 64 KiB) and scores at
@@ -62,37 +45,28 @@ TEST(Fichiers, LesÉcrituresDonnentLesOctetsAttendusEtSeRelisent) {
   std::copy(scores, scores + 4, p.t.Scores);
   p.t.ÉcritScores();
   EXPECT_EQ(p.dossier.Lit("Scores"), "-12\r\n0\r\n2147483647\r\n-2147483648\r\n");
-  p.t.TempsÉcoulé = 75;
-  p.t.ÉcritTempsDuMode();
-  EXPECT_EQ(p.dossier.Lit("Temps2"), "75\r\n");
-  EXPECT_FALSE(p.dossier.Existe("Temps1")) << "the modes keep their times apart";
   EXPECT_TRUE(p.plateforme.erreurs.empty());
 
-  Relue r(p.dossier, SansRetours(écrits) + "\"en trop\"", " -12\n0 \n\t2147483647\n-2147483648");
+  std::string unix = écrits + "\"en trop\"";
+  std::erase(unix, '\r');
+  Partie r(1, " -12\n0 \n\t2147483647\n-2147483648", unix);
   const auto &f = r.t.Fenêtre;
-  ASSERT_FALSE(r.t.DémarrageRefusé) << r.t.ErreurDémarrage;
   EXPECT_EQ(f.NomsJoueursText[0].Text, " Zoé, la reine ");
   EXPECT_TRUE(f.JoueursLabel[1].Caption == "5 €" + x.substr(0, 32764));
-  EXPECT_EQ(r.t.Scores[3], -2147483647 - 1);
-  EXPECT_TRUE(f.ScoreLabel[0].Caption == "-12" && f.ScoreLabel[0].ForeColor == 255u);
+  EXPECT_TRUE(r.t.Scores[3] == -2147483647 - 1 && f.ScoreLabel[0].Caption == "-12");
   r.t.EnregistreNoms_MouseUp();
-  EXPECT_TRUE(p.dossier.Lit("Noms") == écrits) << "what was read writes the same bytes";
+  EXPECT_TRUE(r.dossier.Lit("Noms") == écrits) << "what was read writes the same bytes";
 
-  // The shipped files are what the game writes.
-  DossierEssai livré;
-  for (const char *nom : {"Noms", "Scores"})
-    std::filesystem::copy_file(std::filesystem::path(TN_DOSSIER_DONNEES) / nom,
-                               std::filesystem::path(livré.Chemin()) / nom,
-                               std::filesystem::copy_options::overwrite_existing);
-  const std::string parDéfaut[4] = {NomsParDéfaut[0], NomsParDéfaut[1], NomsParDéfaut[2],
-                                    NomsParDéfaut[3]};
-  DossierEssai d;
-  Relue n(d, livré.Lit("Noms"), livré.Lit("Scores"));
-  ASSERT_FALSE(n.t.DémarrageRefusé) << n.t.ErreurDémarrage;
-  n.t.ÉcritNoms(parDéfaut);
-  n.t.ÉcritScores();
-  EXPECT_EQ(d.Lit("Noms"), livré.Lit("Noms"));
-  EXPECT_EQ(d.Lit("Scores"), livré.Lit("Scores"));
+  // The shipped files are what the game writes for new players.
+  for (auto &texte : r.t.Fenêtre.NomsJoueursText)
+    texte.Text = "";
+  r.t.EnregistreNoms_MouseUp();
+  std::fill(std::begin(r.t.Scores), std::end(r.t.Scores), 0);
+  r.t.ÉcritScores();
+  for (const char *nom : {"Noms", "Scores"}) {
+    std::ifstream livré(std::string(TN_DOSSIER_DONNEES) + "/" + nom, std::ios::binary);
+    EXPECT_EQ(r.dossier.Lit(nom), std::string(std::istreambuf_iterator<char>(livré), {})) << nom;
+  }
 }
 
 TEST(Fichiers, UnNomsOuUnScoresIllisibleArrêteLeDémarrageAvecUnMessageClair) {
@@ -135,29 +109,26 @@ TEST(Fichiers, UnNomsOuUnScoresIllisibleArrêteLeDémarrageAvecUnMessageClair) {
   }
 }
 
+// A time is the number its file starts with; one its field cannot hold
+// leaves the field as it was (5 and 99 here).
 TEST(Fichiers, LesTempsSuiventLaRègleDuNombreEnTête) {
+  const std::string énorme = "1" + std::string(400, '0') + "\r\n";
   struct Cas {
     const char *contenu;
     double expert;
     int16_t débutant;
   };
-  for (const Cas &c : {Cas{nullptr, 0, 0},
-                       {"", 0, 0},
-                       {"12abc\r\n", 12, 12},
-                       {"abc12\r\n", 0, 0},
-                       {"3.6\r\n", 3.6, 4},
-                       {"2.5", 2.5, 2},
-                       {"7,9\r\n", 7, 7},
-                       {"-5\r\n", -5, -5},
-                       {"\r\n8\r\n", 0, 0},
-                       {" 9 s\r\n", 9, 9},
-                       // A number the field cannot hold leaves it as it was.
-                       {"70000\r\n", 70000, 99}}) {
+  const Cas cas[] = {
+      {nullptr, 0, 0},     {"", 0, 0},         {"12abc\r\n", 12, 12},    {"abc12\r\n", 0, 0},
+      {"3.6\r\n", 3.6, 4}, {"2.5", 2.5, 2},    {"7,9\r\n", 7, 7},        {"-5\r\n", -5, -5},
+      {"\r\n8\r\n", 0, 0}, {" 9 s\r\n", 9, 9}, {"70000\r\n", 70000, 99}, {énorme.c_str(), 5, 99}};
+  for (const Cas &c : cas) {
     Partie p(0);
     if (c.contenu) {
       p.dossier.Écrit("Temps1", c.contenu);
       p.dossier.Écrit("Temps2", c.contenu);
     }
+    p.t.TempsExpert = 5;
     p.t.TempsDébutant = 99;
     p.t.Init();
     EXPECT_EQ(p.t.TempsExpert, c.expert) << (c.contenu ? c.contenu : "absent");
@@ -166,19 +137,10 @@ TEST(Fichiers, LesTempsSuiventLaRègleDuNombreEnTête) {
     p.t.Init();
     EXPECT_EQ(p.t.TempsDébutant, c.débutant) << (c.contenu ? c.contenu : "absent");
   }
-  Partie p(0);
-  p.t.TempsExpert = 5;
-  p.dossier.Écrit("Temps1", "1" + std::string(400, '0') + "\r\n");
-  p.t.Init();
-  EXPECT_EQ(p.t.TempsExpert, 5);
 }
 
-TEST(Fichiers, UnTirageManquantCourtOuAbîméNeFaitJamaisTomberLaPartie) {
+TEST(Fichiers, UnTirageCourtOuAbîméNeFaitJamaisTomberLaPartie) {
   Partie p;
-  p.t.LitTirage();
-  for (const auto &main : p.t.Mains)
-    EXPECT_TRUE(std::all_of(std::begin(main), std::end(main), [](int c) { return c == 0; }));
-
   p.dossier.Écrit("Tirage", "5\r\n6\r\n7\r\n");
   p.t.LitTirage();
   EXPECT_EQ(p.t.Mains[0][1], 6);

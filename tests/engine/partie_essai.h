@@ -38,9 +38,11 @@ struct Partie {
   PlateformeSansFenêtre plateforme{dossier.Chemin()};
   TroisNiveaux t{plateforme};
 
-  explicit Partie(uint8_t mode = 1, const std::string &scores = {}) {
+  explicit Partie(uint8_t mode = 1, const std::string &scores = {}, const std::string &noms = {}) {
     if (!scores.empty())
       dossier.Écrit("Scores", scores);
+    if (!noms.empty())
+      dossier.Écrit("Noms", noms);
     t.Form_Load();
     EXPECT_FALSE(t.DémarrageRefusé) << t.ErreurDémarrage;
     if (mode != t.Mode)
