@@ -64,20 +64,15 @@ TEST(CommandeMain, JsonSurUneLigneEtNiveauxEnClair) {
 }
 
 TEST(CommandeMain, MauvaisArguments) {
-  std::vector<std::string> treize;
-  for (int c = 0; c < 13; ++c)
-    treize.push_back(std::to_string(c));
-  const auto Avec = [&](std::vector<std::string> a, int n, std::string dernier) {
-    a.resize(n);
-    a.back() = std::move(dernier);
-    return a;
-  };
   // Too few, too many, the same card twice, no card, a code past the deck.
-  for (const auto &arguments :
-       {Avec(treize, 3, "2"), Avec(treize, 14, "13"), Avec(treize, 13, "2♣"),
-        Avec(treize, 13, "Z♣"), Avec(treize, 13, "52")}) {
+  for (const auto &[nombre, dernier] : std::vector<std::pair<int, std::string>>{
+           {3, "2"}, {14, "13"}, {13, "2♣"}, {13, "Z♣"}, {13, "52"}}) {
+    std::vector<std::string> arguments;
+    for (int c = 0; c + 1 < nombre; ++c)
+      arguments.push_back(std::to_string(c));
+    arguments.push_back(dernier);
     const Appel a = Lance(arguments);
-    EXPECT_TRUE(a.statut == 2 && a.sortie.empty() && !a.erreurs.empty()) << arguments.back();
+    EXPECT_TRUE(a.statut == 2 && a.sortie.empty() && !a.erreurs.empty()) << dernier;
   }
 }
 
@@ -100,13 +95,13 @@ TEST(AnalyseDonne, LesArgumentsFautifsSortentAvecLeCodeDeux) {
   const std::string tube = d.Chemin() + "/Tirage";
   ASSERT_EQ(mkfifo(tube.c_str(), 0644), 0);
   alarm(60);
-  for (const std::vector<std::string> &arguments :
-       std::vector<std::vector<std::string>>{{},
-                                             {"--tirage"},
-                                             {"--tirage", "/nonexistent/Tirage"},
-                                             {"--inconnu"},
-                                             {"--tirage", tube},
-                                             {"--tirage", d.Chemin()}})
+  const std::vector<std::string> fautifs[] = {{"--tirage", tube},
+                                              {"--tirage", d.Chemin()},
+                                              {"--tirage", "/nonexistent/Tirage"},
+                                              {"--tirage"},
+                                              {"--inconnu"},
+                                              {}};
+  for (const auto &arguments : fautifs)
     EXPECT_EQ(CommandeDonne(arguments), 2) << arguments.size();
   alarm(0);
 }
