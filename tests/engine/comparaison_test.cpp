@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <numeric>
 #include <random>
 
@@ -78,7 +79,8 @@ std::vector<int> UneMain(int genre, std::mt19937 &g) {
 
 // The same table swept both ways from the same state, with a STOP or the
 // end of the session at turn `tour` if any.
-void Compare(uint8_t mode, const std::vector<int> (&mains)[4], int tour = 0, bool quitte = false) {
+void Compare(uint8_t mode, const std::array<std::vector<int>, 4> &mains, int tour = 0,
+             bool quitte = false) {
   SessionEssai rapide(mode), littéral(mode);
   for (SessionEssai *s : {&rapide, &littéral}) {
     for (int j = 0; j < 4; ++j)
@@ -105,32 +107,29 @@ void Compare(uint8_t mode, const std::vector<int> (&mains)[4], int tour = 0, boo
               r.MégaQuinte[3] == s.MégaQuinte[3]);
 }
 
-TEST(RapideContreLittéral, DesMilliersDeMains) {
+TEST(RapideContreLittéral, DesMilliersDeMainsEtDesInterruptions) {
   std::mt19937 g(20261122);
-  for (int n = 0; n < Tables; ++n) {
-    std::vector<int> mains[4];
+  const auto Table = [&g](int genre) { // four hands of the kinds from `genre` on
+    std::array<std::vector<int>, 4> mains;
     for (int j = 0; j < 4; ++j)
-      mains[j] = UneMain(4 * n + j, g);
+      mains[j] = UneMain(genre + j, g);
+    return mains;
+  };
+  for (int n = 0; n < Tables; ++n) {
     SCOPED_TRACE(n);
-    Compare(n % 4 != 0, mains); // one table in four in EXPERT
+    Compare(n % 4 != 0, Table(4 * n)); // one table in four in EXPERT
     if (HasFatalFailure())
       return;
   }
-}
-
-TEST(RapideContreLittéral, InterrompuÀUnTourQuelconque) {
-  std::mt19937 g(7);
-  // The first and last turns of the seats, and turns at random.
+  // Interrupted at the first and last turns of the seats and at turns at
+  // random, on the hands with the most special rows.
   std::vector<int> tours = {1, 2, 1287, 1288, 1289, 2575, 3862, 5148};
   for (int k = 0; k < 8; ++k)
     tours.push_back(std::uniform_int_distribution<int>(1, 5148)(g));
   for (int tour : tours)
     for (bool quitte : {false, true}) {
-      std::vector<int> mains[4];
-      for (int j = 0; j < 4; ++j)
-        mains[j] = UneMain(1 + j, g); // the hands with the most special rows
       SCOPED_TRACE(tour);
-      Compare(1, mains, tour, quitte);
+      Compare(1, Table(1), tour, quitte);
       if (HasFatalFailure())
         return;
     }

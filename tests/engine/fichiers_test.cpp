@@ -4,30 +4,25 @@
 
 #include <csignal>
 #include <filesystem>
+#include <functional>
 #include <sys/resource.h>
 
 #include "partie_essai.h"
 
 namespace {
 
-// While it stands no file may grow: to a writer, the disk is full.
-class DisquePlein {
-public:
-  DisquePlein() : ancienSignal(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &avant);
-    rlimit zéro = avant;
-    zéro.rlim_cur = 0;
-    setrlimit(RLIMIT_FSIZE, &zéro);
-  }
-  ~DisquePlein() {
-    setrlimit(RLIMIT_FSIZE, &avant);
-    std::signal(SIGXFSZ, ancienSignal);
-  }
-
-private:
-  void (*ancienSignal)(int);
+// Runs `écriture` while no file may grow: to a writer, the disk is full.
+void DisquePlein(const std::function<void()> &écriture) {
+  const auto ancienSignal = std::signal(SIGXFSZ, SIG_IGN);
   rlimit avant{};
-};
+  getrlimit(RLIMIT_FSIZE, &avant);
+  rlimit zéro = avant;
+  zéro.rlim_cur = 0;
+  setrlimit(RLIMIT_FSIZE, &zéro);
+  écriture();
+  setrlimit(RLIMIT_FSIZE, &avant);
+  std::signal(SIGXFSZ, ancienSignal);
+}
 
 } // namespace
 
@@ -177,11 +172,10 @@ TEST(Fichiers, UneÉcritureImpossibleGardeLAncienFichierEtPrévientUneFois) {
   auto &erreurs = p.plateforme.erreurs;
   const std::string scores = "1\r\n2\r\n3\r\n4\r\n";
   p.dossier.Écrit("Scores", scores);
-  {
-    DisquePlein plein;
+  DisquePlein([&] {
     p.t.ÉcritScores();
     p.t.ÉcritScores();
-  }
+  });
   EXPECT_EQ(p.dossier.Lit("Scores"), scores);
   ASSERT_EQ(erreurs.size(), 1u);
   EXPECT_NE(erreurs[0].find("« Scores » (" + p.dossier.Chemin() + "/Scores)"), std::string::npos)
@@ -200,10 +194,7 @@ TEST(Fichiers, UneÉcritureImpossibleGardeLAncienFichierEtPrévientUneFois) {
   p.t.Joue_Click();
   EXPECT_FALSE(p.t.SessionTerminée);
   EXPECT_NE(p.dossier.Lit("Scores"), "0\r\n0\r\n0\r\n0\r\n");
-  {
-    DisquePlein plein;
-    p.t.ÉcritScores();
-  }
+  DisquePlein([&] { p.t.ÉcritScores(); });
   ASSERT_EQ(erreurs.size(), 4u);
   EXPECT_NE(erreurs[2].find("« Temps2 »"), std::string::npos);
   EXPECT_NE(erreurs[2].find("un dossier porte ce nom"), std::string::npos);

@@ -35,7 +35,6 @@ TEST(Historique, UnFichierAbîméSeLitSansLesLignesFautives) {
   EXPECT_EQ(lecture.entrées.size(), 2u);
   EXPECT_EQ(lecture.lignesIgnorées, 11);
 
-  EXPECT_FALSE(historique::Lit(d.Chemin() + "/Absent").trouvé);
   std::filesystem::create_directory(d.Chemin() + "/Dossier");
   EXPECT_FALSE(historique::Lit(d.Chemin() + "/Dossier").trouvé);
 
