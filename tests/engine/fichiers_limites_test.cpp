@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // SPDX-FileCopyrightText: 2026 The TroisNiveaux developers
-// The data files at their limits: folders that take no new file, leftovers
-// of a crash, and whatever else than a regular file lies at their names.
+// The data files at their limits: leftovers of a crash, and whatever else
+// than a regular file lies at their names.
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <functional>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include "partie_essai.h"
@@ -17,27 +15,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Runs `essai` as an ordinary user, for whom a folder's permissions bind:
-// in a child that drops root for nobody, or here when not root. nullopt
-// when neither can be had.
-std::optional<bool> EnUtilisateurOrdinaire(const std::function<bool()> &essai) {
-  if (geteuid() != 0)
-    return essai();
-  const pid_t enfant = fork();
-  if (enfant < 0)
-    return std::nullopt;
-  if (enfant == 0) {
-    if (setresgid(65534, 65534, 65534) != 0 || setresuid(65534, 65534, 65534) != 0)
-      _exit(2);
-    _exit(essai() ? 0 : 1);
-  }
-  int statut = 0;
-  waitpid(enfant, &statut, 0);
-  if (!WIFEXITED(statut) || WEXITSTATUS(statut) == 2)
-    return std::nullopt;
-  return WEXITSTATUS(statut) == 0;
-}
-
 // Ends the test program if a read or a write blocks.
 struct Chien {
   Chien() { alarm(60); }
@@ -45,36 +22,6 @@ struct Chien {
 };
 
 } // namespace
-
-TEST(FichiersLimites, UnDossierSansNouveauFichierSÉcritEnPlace) {
-  DossierEssai d;
-  const fs::path dossier = d.Chemin();
-  // The folder belongs to the ordinary user and refuses new files; the file
-  // stays writable.
-  for (const char *nom : {"", "Noms", "Scores"})
-    if (chown((dossier / nom).c_str(), 65534, 65534) != 0 && geteuid() == 0)
-      GTEST_SKIP() << "cannot hand the folder to another user";
-  fs::permissions(dossier, fs::perms(0555));
-  const auto résultat = EnUtilisateurOrdinaire([&] {
-    PlateformeSansFenêtre plateforme(dossier.string());
-    TroisNiveaux t(plateforme);
-    t.Form_Load();
-    if (t.DémarrageRefusé || access(".", W_OK) == 0)
-      return false;
-    t.Scores[2] = -3;
-    t.ÉcritScores();
-    t.ÉcritTirage(); // a new file cannot be made here at all
-    return plateforme.erreurs.size() == 1 &&
-           plateforme.erreurs[0].find("« Tirage »") != std::string::npos &&
-           plateforme.erreurs[0].find("le dossier est protégé en écriture") != std::string::npos;
-  });
-  fs::permissions(dossier, fs::perms::owner_all);
-  if (!résultat)
-    GTEST_SKIP() << "no ordinary user to run as";
-  EXPECT_TRUE(*résultat);
-  EXPECT_EQ(d.Lit("Scores"), "0\r\n0\r\n-3\r\n0\r\n");
-  EXPECT_EQ(std::distance(fs::directory_iterator(dossier), {}), 2) << "no temporary file";
-}
 
 TEST(FichiersLimites, LesRestesDÉcrituresInterrompuesSontEffacésEtRienDAutre) {
   DossierEssai d;
@@ -143,12 +90,4 @@ TEST(FichiersLimites, CeQuiNEstPasUnFichierOrdinaireNEstNiLuNiRemplacé) {
   EXPECT_TRUE(fs::is_symlink(dossier / "Tirage"));
   EXPECT_EQ(p.dossier.Lit("vrai-tirage"), TexteDeTirage({std::vector<int>(52, 0)}))
       << "the replay of a pipe dealt code 0";
-
-  // At start-up a pipe for Noms is refused at once.
-  fs::remove(dossier / "Noms");
-  ASSERT_EQ(mkfifo((dossier / "Noms").c_str(), 0644), 0);
-  PlateformeSansFenêtre autre(p.dossier.Chemin());
-  TroisNiveaux t(autre);
-  t.Form_Load();
-  EXPECT_NE(t.ErreurDémarrage.find("n'est pas un fichier ordinaire"), std::string::npos);
 }

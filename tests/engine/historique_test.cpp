@@ -4,7 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <sstream>
 
+#include "analyse/commande_historique.h"
 #include "files/historique.h"
 #include "partie_essai.h"
 
@@ -74,18 +76,34 @@ TEST(Historique, LeFichierGardeSesDernièresLignes) {
   EXPECT_EQ(Restes(), copie ? 4 : 3);
 }
 
-TEST(Historique, LesChiffresDeChaqueSiège) {
+// The figures of each seat, as the analysis command gives them.
+TEST(Historique, LesChiffresDeChaqueSiègeEtLaCommandeQuiLesDonne) {
   const std::vector<Entrée> entrées = {
       {"2026-11-23 21:00:00", false, 1, {-5, 21, -7, -9}, {-5, 21, -7, -9}},
       {"2026-11-23 21:05:00", false, 0, {18, -6, -6, -6}, {13, 15, -13, -15}},
       Remise,
       {"2026-11-23 21:09:00", false, 1, {2, 0, 1, -3}, {2, 0, 1, -3}},
   };
-  const historique::Figures f = historique::Calcule(entrées);
-  EXPECT_TRUE(f.donnes == 3 && f.remises == 1 && f.sièges[0].donnes == 3);
-  EXPECT_DOUBLE_EQ(f.sièges[0].moyenne, 15.0 / 3);
-  EXPECT_TRUE(f.sièges[0].meilleure == 18 && f.sièges[0].pire == -5 && f.sièges[1].pire == -6);
-  EXPECT_EQ(f.sièges[3].score, -3);
-  EXPECT_EQ(historique::Calcule({entrées[0], entrées[2]}).sièges[1].score, 0)
+  DossierEssai d;
+  for (const Entrée &e : entrées)
+    ASSERT_TRUE(historique::Ajoute(e, d.Chemin() + "/Historique"));
+  std::filesystem::current_path(d.Chemin());
+  const auto Résumé = [](const std::vector<std::string> &arguments) {
+    std::ostringstream sortie, erreurs;
+    const int statut = CommandeHistorique(arguments, sortie, erreurs);
+    return std::to_string(statut) + " " + sortie.str();
+  };
+  EXPECT_EQ(Résumé({"--json"}),
+            "0 {\"donnes\": 3, \"remises\": 1, \"lignesIgnorées\": 0, \"sièges\": [{\"nom\": "
+            "\"MicroProc\", \"donnes\": 3, \"moyenne\": 5.00, \"meilleure\": 18, \"pire\": -5, "
+            "\"score\": 2}, {\"nom\": \"GigaOctets\", \"donnes\": 3, \"moyenne\": 5.00, "
+            "\"meilleure\": 21, \"pire\": -6, \"score\": 0}, {\"nom\": \"MégaBytes\", \"donnes\": "
+            "3, \"moyenne\": -4.00, \"meilleure\": 1, \"pire\": -7, \"score\": 1}, {\"nom\": "
+            "\"Bibi\", \"donnes\": 3, \"moyenne\": -6.00, \"meilleure\": -3, \"pire\": -9, "
+            "\"score\": -3}]}\n");
+  EXPECT_TRUE(Résumé({}).starts_with("0 Historique : 3 donnes, 1 remise à zéro\n")) << Résumé({});
+  EXPECT_EQ(Résumé({"Absent"}), "1 ");
+  EXPECT_EQ(Résumé({"--moyenne"}), "2 ");
+  EXPECT_EQ(historique::Calcule({entrées[0], Remise}).sièges[1].score, 0)
       << "a reset last leaves the scores at 0";
 }

@@ -5,10 +5,8 @@
 
 #include <algorithm>
 #include <numeric>
-#include <sstream>
 #include <vector>
 
-#include "analyse/commande_historique.h"
 #include "files/historique.h"
 #include "partie_essai.h"
 
@@ -73,21 +71,6 @@ TEST(Partie, LaDonneDeRéférenceSePaieCommePrévuEtSeNoteDansLHistorique) {
             ";DEBUTANT;-5;21;-7;-9;-2147483648;2147483647;-7;-2147483648\r\n");
   EXPECT_TRUE(lecture.entrées[2].remise && lecture.entrées[3].remise);
   EXPECT_TRUE(p.plateforme.erreurs.empty());
-  // The analysis command sums the same lines up.
-  const auto Résumé = [](const std::vector<std::string> &arguments) {
-    std::ostringstream sortie, erreurs;
-    const int statut = CommandeHistorique(arguments, sortie, erreurs);
-    return std::to_string(statut) + " " + sortie.str();
-  };
-  const std::string json = Résumé({"--json"});
-  EXPECT_TRUE(json.starts_with("0 {\"donnes\": 2, \"remises\": 2, \"lignesIgnorées\": 0, "));
-  EXPECT_NE(json.find("{\"nom\": \"GigaOctets\", \"donnes\": 2, \"moyenne\": 21.00, "
-                      "\"meilleure\": 21, \"pire\": 21, \"score\": 0}"),
-            std::string::npos)
-      << json;
-  EXPECT_TRUE(Résumé({}).starts_with("0 Historique : 2 donnes, 2 remises à zéro")) << Résumé({});
-  EXPECT_EQ(Résumé({"Absent"}), "1 ");
-  EXPECT_EQ(Résumé({"--moyenne"}), "2 ");
 }
 
 TEST(Partie, JouerPuisGoPasseParLesÉtatsDeLaTable) {
