@@ -64,33 +64,31 @@ TEST(ComptePaires, SixPairesEtMégaQuinte) {
   }
 }
 
-// A DEBUTANT table of 13 ranks in every seat, interrupted at turn `tour`.
-// The row-by-row sweep stops at the same places: see the sweep comparison.
-void Interromps(SessionEssai &s, int tour, bool quitte) {
-  for (int j = 0; j < 4; ++j)
-    s.Main(j, {0, 14, 28, 42, 4, 18, 32, 46, 8, 22, 36, 50, 12});
-  std::fill(std::begin(s.t.CartesTirées), std::end(s.t.CartesTirées), 7); // Init puts 54 back
-  s.plateforme.script = [&s, tour, quitte](int n) {
-    EXPECT_TRUE(s.t.BalayageEnCours);
-    if (n == tour)
-      (quitte ? s.t.SessionTerminée : s.t.Fenêtre.Arrêt.Enabled) = quitte;
-  };
-  s.t.OrdiJoue();
-  EXPECT_EQ(s.plateforme.tours, tour);
-  EXPECT_FALSE(s.t.BalayageEnCours);
-}
-
+// A DEBUTANT table of 13 ranks in every seat, stopped at turn 2 (row 57) or
+// left at seat 1's first turn by the end of the session. After STOP the row
+// is finished and Init runs, with no pair count; after the end, seat 0 has
+// had its count and nothing more runs. The row-by-row sweep stops at the
+// same places: see the sweep comparison.
 TEST(Balayage, StopOuFinDeSessionPendantUnTour) {
-  SessionEssai stop, fin;
-  Interromps(stop, 2, false); // turn 2 is at row 57
-  // Row 57 was finished, Init ran before row 58, no pair count.
-  for (int j = 0; j < 5; ++j)
-    EXPECT_EQ(stop.t.Niveau2[j], stop.t.Mains[0][stop.t.Rangements[57][5 + j]]);
-  EXPECT_EQ(stop.t.CartesTirées[0], PasDeCarte) << "Init n'a pas tourné";
-  EXPECT_FALSE(stop.t.MégaQuinte[0]);
-  Interromps(fin, 1288, true); // seat 1's first turn
-  EXPECT_TRUE(fin.t.MégaQuinte[0] && !fin.t.MégaQuinte[1]);
-  EXPECT_EQ(fin.t.CartesTirées[0], 7) << "pas d'Init après la fin de la session";
+  for (bool quitte : {false, true}) {
+    SessionEssai s;
+    const int tour = quitte ? 1288 : 2;
+    for (int j = 0; j < 4; ++j)
+      s.Main(j, {0, 14, 28, 42, 4, 18, 32, 46, 8, 22, 36, 50, 12});
+    std::fill(std::begin(s.t.CartesTirées), std::end(s.t.CartesTirées), 7); // Init puts 54 back
+    s.plateforme.script = [&s, tour, quitte](int n) {
+      EXPECT_TRUE(s.t.BalayageEnCours);
+      if (n == tour)
+        (quitte ? s.t.SessionTerminée : s.t.Fenêtre.Arrêt.Enabled) = quitte;
+    };
+    s.t.OrdiJoue();
+    EXPECT_EQ(s.plateforme.tours, tour);
+    EXPECT_FALSE(s.t.BalayageEnCours || s.t.MégaQuinte[1]);
+    EXPECT_EQ(s.t.MégaQuinte[0], quitte);
+    EXPECT_EQ(s.t.CartesTirées[0], quitte ? 7 : PasDeCarte) << "Init after a STOP only";
+    for (int j = 0; j < 5 && !quitte; ++j)
+      EXPECT_EQ(s.t.Niveau2[j], s.t.Mains[0][s.t.Rangements[57][5 + j]]);
+  }
 }
 
 TEST(Balayage, BarreDeProgrèsDansLesDeuxModes) {
