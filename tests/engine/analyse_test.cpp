@@ -8,7 +8,6 @@
 #include <unistd.h>
 
 #include "analyse/commande_main.h"
-#include "analyse/session_analyse.h"
 #include "analyse/texte.h"
 #include "partie_essai.h"
 
@@ -73,17 +72,6 @@ TEST(CommandeMain, MauvaisArguments) {
     const Appel a = Lance(arguments);
     EXPECT_TRUE(a.statut == 2 && a.sortie.empty() && !a.erreurs.empty()) << dernier;
   }
-}
-
-TEST(CommandeMain, SessionDansUnDossierTemporaireEffacé) {
-  std::filesystem::path dossier;
-  {
-    SessionAnalyse session;
-    dossier = session.dossier();
-    EXPECT_TRUE(std::filesystem::is_directory(dossier));
-    EXPECT_EQ(session.table().Rangements.size(), 72073u);
-  }
-  EXPECT_FALSE(dossier.empty() || std::filesystem::exists(dossier));
 }
 
 } // namespace

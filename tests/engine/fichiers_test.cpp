@@ -91,10 +91,12 @@ TEST(Fichiers, UnNomsOuUnScoresIllisibleArrêteLeDémarrageAvecUnMessageClair) {
     if (c.contenu)
       d.Écrit(c.fichier, *c.contenu);
     PlateformeSansFenêtre p(d.Chemin());
+    p.écran = {1024, 600, 24, 60, 0}; // switched to 1024 x 768 before the files are read
     TroisNiveaux t(p);
     t.Form_Load();
     const std::string &message = t.ErreurDémarrage;
     EXPECT_TRUE(t.DémarrageRefusé && t.Rangements.empty()) << "nothing after the failed read runs";
+    EXPECT_EQ(p.écran.dmPelsHeight, 600) << "the screen is put back as it was";
     EXPECT_NE(message.find(c.attendu), std::string::npos) << message;
     EXPECT_NE(message.find("« " + std::string(c.fichier) + " » (" + d.Chemin() + "/" + c.fichier),
               std::string::npos)
@@ -143,10 +145,8 @@ TEST(Fichiers, UnTirageCourtOuAbîméNeFaitJamaisTomberLaPartie) {
   EXPECT_EQ(p.t.Fenêtre.CartesJeu[51].Picture, 7);
 
   // Nothing past the first MiB is read, and a line cut there not at all.
-  std::string quarante;
-  for (int i = 0; i < 40; ++i)
-    quarante += "4\r\n";
-  p.dossier.Écrit("Tirage", quarante + std::string(1 << 20, '0') + "9\r\n1\r\n");
+  p.dossier.Écrit("Tirage", TexteDeTirage({std::vector<int>(40, 4)}) + std::string(1 << 20, '0') +
+                                "9\r\n1\r\n");
   p.t.LitTirage();
   EXPECT_EQ(p.t.Mains[3][12], 4);
 

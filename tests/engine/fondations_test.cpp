@@ -87,12 +87,3 @@ TEST(Démarrage, LaTableAttendJouerDansSonÉtatDeDépart) {
   EXPECT_EQ(s.t.EtoileY[1], 0);
   EXPECT_EQ(s.t.EtoileX[1], 15359.0f) << "inside the window";
 }
-
-TEST(Aléatoire, UneRéensemenceIdentiqueNeRépètePasLeTirage) {
-  Aléatoire g;
-  g.Réensemence(1234.5f);
-  const double a = g.Tire();
-  g.Réensemence(1234.5f);
-  EXPECT_NE(a, g.Tire());
-  EXPECT_TRUE(a >= 0.0 && a < 1.0);
-}
