@@ -17,12 +17,9 @@ TEST(Donne, UneHorlogeArrêtéeDonneQuandMêmeLesCinquanteDeuxCartes) {
   const auto &tirées = s.t.CartesTirées;
   EXPECT_EQ(std::set<int>(std::begin(tirées), std::end(tirées)).size(), 52u);
   EXPECT_LE(*std::max_element(std::begin(tirées), std::end(tirées)), 51);
-  std::string attendu;
-  for (int k = 0; k <= 51; ++k) {
+  for (int k = 0; k <= 51; ++k)
     EXPECT_EQ(s.t.Mains[k / 13][k % 13], tirées[k]) << "no round-robin";
-    attendu += std::to_string(tirées[k]) + "\r\n";
-  }
-  EXPECT_EQ(s.dossier.Lit("Tirage"), attendu);
+  EXPECT_EQ(s.dossier.Lit("Tirage"), TexteDeTirage({{std::begin(tirées), std::end(tirées)}}));
   for (int k = 0; k <= 12; ++k)
     EXPECT_TRUE(s.t.Mains[4][k] == s.t.Mains[3][k] &&
                 s.t.Fenêtre.CartesJeu[39 + k].Picture == s.t.Mains[3][k] &&
