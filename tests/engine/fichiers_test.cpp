@@ -51,17 +51,6 @@ TEST(Fichiers, LesÉcrituresDonnentLesOctetsAttendusEtSeRelisent) {
   EXPECT_TRUE(r.t.Scores[3] == -2147483647 - 1 && f.ScoreLabel[0].Caption == "-12");
   r.t.EnregistreNoms_MouseUp();
   EXPECT_TRUE(r.dossier.Lit("Noms") == écrits) << "what was read writes the same bytes";
-
-  // The shipped files are what the game writes for new players.
-  for (auto &texte : r.t.Fenêtre.NomsJoueursText)
-    texte.Text = "";
-  r.t.EnregistreNoms_MouseUp();
-  std::fill(std::begin(r.t.Scores), std::end(r.t.Scores), 0);
-  r.t.ÉcritScores();
-  for (const char *nom : {"Noms", "Scores"}) {
-    std::ifstream livré(std::string(TN_DOSSIER_DONNEES) + "/" + nom, std::ios::binary);
-    EXPECT_EQ(r.dossier.Lit(nom), std::string(std::istreambuf_iterator<char>(livré), {})) << nom;
-  }
 }
 
 TEST(Fichiers, UnNomsOuUnScoresIllisibleArrêteLeDémarrageAvecUnMessageClair) {

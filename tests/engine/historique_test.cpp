@@ -37,9 +37,6 @@ TEST(Historique, UnFichierAbîméSeLitSansLesLignesFautives) {
   EXPECT_EQ(lecture.entrées.size(), 2u);
   EXPECT_EQ(lecture.lignesIgnorées, 11);
 
-  std::filesystem::create_directory(d.Chemin() + "/Dossier");
-  EXPECT_FALSE(historique::Lit(d.Chemin() + "/Dossier").trouvé);
-
   // The next write keeps the good lines and drops the rest.
   ASSERT_TRUE(historique::Ajoute(Remise, d.Chemin() + "/Historique"));
   EXPECT_EQ(d.Lit("Historique"), bonne + bonne + "2026-11-24 08:00:00;SCORES A 0\r\n");

@@ -24,6 +24,12 @@ inline const std::vector<std::vector<int>> DonneDeRéférence = {
 inline const std::vector<int> DispositionDeRéférence = {18, 44, 31, 15, 28, 30, 51,
                                                         40, 12, 42, 21, 7,  11};
 
+// A data file as the game ships it.
+inline std::string Livré(const std::string &nom) {
+  std::ifstream fichier(std::string(TN_DOSSIER_DONNEES) + "/" + nom, std::ios::binary);
+  return {std::istreambuf_iterator<char>(fichier), {}};
+}
+
 // The bytes of a Tirage file holding these hands.
 inline std::string TexteDeTirage(const std::vector<std::vector<int>> &mains) {
   std::string octets;
