@@ -68,9 +68,9 @@ TEST(Démarrage, LaTableAttendJouerDansSonÉtatDeDépart) {
   EXPECT_EQ(std::filesystem::current_path(), std::filesystem::path(s.dossier.Chemin()));
   const auto &f = s.t.Fenêtre;
   EXPECT_TRUE(f.NouveauJeu.Enabled && f.Arrêt.Enabled && !f.Joue.Visible && f.EtoilesTimer.Enabled);
-  EXPECT_TRUE(f.ScoreLabel[0].Caption == "-3" && f.ScoreLabel[0].ForeColor == 255u)
+  EXPECT_TRUE(f.ScoreLabel[0].Caption == "-3" && f.ScoreLabel[0].ForeColor == 255u &&
+              f.ScoreLabel[2].ForeColor == 0u)
       << "a negative score shows red before any deal";
-  EXPECT_EQ(f.ScoreLabel[2].ForeColor, 0u);
   for (int i = 1; i <= 50; ++i)
     EXPECT_TRUE(s.t.EtoileX[i] < 15360 && s.t.EtoileY[i] < 11520 && s.t.EtoileVitesse[i] >= 2);
 

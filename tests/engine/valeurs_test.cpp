@@ -21,11 +21,6 @@ std::vector<int> Cartes(const std::string &texte) {
   return codes;
 }
 
-template <size_t N> void Pose(uint8_t (&niveau)[N], const std::string &texte) {
-  const auto codes = Cartes(texte);
-  std::copy(codes.begin(), codes.end(), niveau);
-}
-
 const double RienAs = 12 + 11 / 15.0 + 10 / 150.0 + 9 / 1500.0 + 7 / 15000.0; // A R D V 9
 
 // Every five-card set of the deck: the classes fall in the known counts and
@@ -94,7 +89,8 @@ TEST(Résultat, TroisCartesEtMainsSpéciales) {
   // Level 3 under levels 1 and 2 worth v1 and v2; -1 when left unwritten.
   auto vaut = [&s](const char *cartes, double v1 = 1, double v2 = 1) {
     s.t.Valeur1 = v1, s.t.Valeur2 = v2, s.t.Valeur3 = -1;
-    Pose(s.t.Niveau3, cartes);
+    const auto codes = Cartes(cartes);
+    std::copy(codes.begin(), codes.end(), s.t.Niveau3);
     s.t.Résultat3();
     return s.t.Valeur3;
   };
