@@ -41,8 +41,7 @@ Appel Lance(const std::vector<std::string> &arguments) {
 TEST(CommandeMain, JsonSurUneLigneEtNiveauxEnClair) {
   const Appel a =
       Lance({"--json", "49", "29", "0", "35", "43", "41", "25", "51", "14", "15", "9", "45", "20"});
-  EXPECT_EQ(a.statut, 0);
-  EXPECT_EQ(a.erreurs, "");
+  EXPECT_EQ(a.statut, 0) << a.erreurs;
   EXPECT_EQ(a.sortie, "{\"cartes\": [49, 29, 0, 35, 43, 41, 25, 51, 14, 15, 9, 45, 20], "
                       "\"MeilleurRangement\": 21179, \"MeilleureValeur\": 1005.17615, "
                       "\"disposition\": [49, 43, 41, 51, 45, 29, 0, 25, 14, 15, 35, 9, 20], "

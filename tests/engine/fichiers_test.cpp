@@ -7,6 +7,7 @@
 #include <csignal>
 #include <filesystem>
 #include <functional>
+#include <numeric>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
@@ -157,7 +158,7 @@ TEST(Fichiers, UnTirageCourtOuAbîméNeFaitJamaisTomberLaPartie) {
   EXPECT_EQ(p.t.Fenêtre.CartesJeu[39].Picture, 4);
   p.t.Rejoue_MouseUp();
   EXPECT_TRUE(p.t.Fenêtre.NouveauJeu.Enabled && !p.t.Fenêtre.Arrêt.Enabled);
-  EXPECT_EQ(p.SommeDesTotaux(), 0);
+  EXPECT_EQ(std::accumulate(p.t.TotauxDonne, p.t.TotauxDonne + 4, 0), 0);
   EXPECT_TRUE(p.plateforme.erreurs.empty());
 }
 

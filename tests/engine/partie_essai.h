@@ -55,11 +55,6 @@ struct Partie {
       t.Mode_MouseUp();
   }
 
-  // The cards that REJOUE deals, seat by seat.
-  void Tirage(const std::vector<std::vector<int>> &mains) const {
-    dossier.Écrit("Tirage", TexteDeTirage(mains));
-  }
-
   // Lays the human's cards out in this order by clicks, as a player would.
   void Dispose(const std::vector<int> &voulu) {
     for (int k = 0; k <= 12; ++k)
@@ -79,7 +74,4 @@ struct Partie {
     return textes;
   }
   std::string Paiements() const { return Textes(t.Fenêtre.LabelPaie); }
-  int SommeDesTotaux() const {
-    return t.TotauxDonne[0] + t.TotauxDonne[1] + t.TotauxDonne[2] + t.TotauxDonne[3];
-  }
 };

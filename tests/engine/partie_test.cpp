@@ -22,7 +22,7 @@ constexpr int DonnesAuHasard = 150;
 // nothing, and the history gets one line per paid deal and per SCORES A 0.
 TEST(Partie, LaDonneDeRéférenceSePaieCommePrévuEtSeNoteDansLHistorique) {
   Partie p(0);
-  p.Tirage(DonneDeRéférence);
+  p.dossier.Écrit("Tirage", TexteDeTirage(DonneDeRéférence));
   p.plateforme.script = [&](int tour) {
     if (tour == 1)
       p.Dispose(DispositionDeRéférence);
@@ -33,8 +33,7 @@ TEST(Partie, LaDonneDeRéférenceSePaieCommePrévuEtSeNoteDansLHistorique) {
   EXPECT_EQ(p.Paiements(), "-4 -1 -1 -2 1 1 -1 1 1 4 4 4 2 2 2 1 1 1 "
                            "1 -4 1 -1 -2 1 -1 -1 -1 1 -4 -1 -1 -2 -1 -1 -1 1");
   EXPECT_EQ(Partie::Textes(p.t.Fenêtre.TotalLabel), "-5 21 -7 -9");
-  EXPECT_EQ(Partie::Textes(p.t.Fenêtre.ScoreLabel), "-5 21 -7 -9");
-  EXPECT_EQ(p.t.Fenêtre.ScoreLabel[0].ForeColor, 0x0000FFu);
+  EXPECT_EQ(p.t.Fenêtre.ScoreLabel[0].ForeColor, 0x0000FFu) << "a negative score shows red";
   EXPECT_EQ(Partie::Textes(p.t.Fenêtre.EnchèreLabel, ","),
             "FLUSH,BRELAN,RIEN,CARRE,FULL,1 PAIRE,FULL,2 PAIRES,RIEN,FULL,1 PAIRE,RIEN");
   EXPECT_TRUE(p.dossier.Existe("Temps1") && !p.dossier.Existe("Temps2"));
@@ -169,7 +168,7 @@ TEST(Partie, LeToutFlushDuDébutantLuiEstReconnu) {
       donne[n++ % 3].push_back(c);
   donne.push_back(humain);
   Partie p;
-  p.Tirage(donne);
+  p.dossier.Écrit("Tirage", TexteDeTirage(donne));
   p.t.Rejoue_MouseUp();
   EXPECT_EQ(p.t.Fenêtre.ExtraLabel[3].Caption, "TOUT FLUSH");
   EXPECT_EQ(p.t.Fenêtre.TotalLabel[3].Caption, "18");
@@ -201,7 +200,7 @@ TEST(Partie, SurDesDonnesAuHasardChaqueNiveauSePaieÀSommeNulle) {
       EXPECT_EQ(std::accumulate(p.t.Scores, p.t.Scores + 4, 0), 0);
       if (mode == 1) {
         p.t.VoirOrdi_Click(0);
-        EXPECT_EQ(p.SommeDesTotaux(), 0);
+        EXPECT_EQ(std::accumulate(p.t.TotauxDonne, p.t.TotauxDonne + 4, 0), 0);
         p.t.VoirOrdi_Click(1);
       }
     }
