@@ -162,8 +162,8 @@ TEST(Fichiers, UnTirageCourtOuAbîméNeFaitJamaisTomberLaPartie) {
   EXPECT_TRUE(p.plateforme.erreurs.empty());
 }
 
-// Told once per file while it keeps failing; a replay writes no time, and a
-// history that cannot be written does not stop the game.
+// Told once per file while it keeps failing; a replay leaves its time's
+// failure untold, and a history that cannot be written does not stop the game.
 TEST(Fichiers, UneÉcritureImpossibleGardeLAncienFichierEtPrévientUneFois) {
   Partie p;
   auto &erreurs = p.plateforme.erreurs;
