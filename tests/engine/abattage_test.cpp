@@ -116,12 +116,9 @@ TEST(Abattage, LesCartesSeMontrentTriéesAvecLAsDevantDansUneQuinteBasse) {
   t.ToutQuinte[1] = true;
   a.Main(2, {12, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11}); // clubs, ace to 5 on level 1
   t.ToutFlush[2] = true;
-  std::vector<int> treize, disposition;
-  for (int r = 12; r >= 0; --r)
-    treize.push_back(13 * (r % 4) + r);
-  for (int k = 0; k <= 12; ++k)
-    disposition.push_back(treize[(k * 5) % 13]);
-  a.Main(3, treize);
+  // Thirteen ranks, the human's layout of them in another order.
+  const std::vector<int> disposition = {12, 46, 28, 36, 18, 0, 8, 42, 50, 32, 14, 22, 4};
+  a.Main(3, {12, 50, 36, 22, 8, 46, 32, 18, 4, 42, 28, 14, 0});
   a.Main(4, disposition);
   t.MégaQuinte[3] = true;
   for (int s = 0; s <= 3; ++s)

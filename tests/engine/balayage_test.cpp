@@ -9,7 +9,9 @@
 
 namespace {
 
-TEST(Balayage, MarquesEtRangéesQuiNePassentPas) {
+// Which row a seat keeps: the marks of its special hands, the earlier of
+// two equal rows, none when no row passes.
+TEST(Balayage, MarquesRangéesÉgalesEtRangéesQuiNePassentPas) {
   // 13 cards of one suit: every row is an all-flush, the last one also an
   // all-straight (10..A and 5..9 over 2 3 4), which leaves 6600.
   SessionEssai s;
@@ -18,6 +20,10 @@ TEST(Balayage, MarquesEtRangéesQuiNePassentPas) {
   EXPECT_EQ(s.t.MeilleurRangement[0], 72072);
   EXPECT_EQ(s.t.MeilleureValeur, 6600.0f);
   EXPECT_TRUE(s.t.ToutFlush[0] && s.t.ToutQuinte[0] && s.t.MégaQuinte[0]);
+  // Rows 62770 and 69881 of this hand add up to the same float.
+  s.Main(1, {25, 18, 9, 17, 46, 11, 27, 31, 3, 40, 24, 0, 30});
+  s.t.ChercheSiège(1);
+  EXPECT_EQ(s.t.MeilleurRangement[1], 62770);
   // 13 equal codes: levels 1 and 2 are worth 500 in every row, none
   // passes, and the row kept before stays.
   s.Main(2, std::vector<int>(13, 0));
@@ -25,24 +31,6 @@ TEST(Balayage, MarquesEtRangéesQuiNePassentPas) {
   s.t.ChercheSiège(2);
   EXPECT_EQ(s.t.MeilleurRangement[2], 4321);
   EXPECT_EQ(s.t.MeilleureValeur, 0.0f);
-}
-
-TEST(Balayage, DesRangéesÉgalesLaPremièreReste) {
-  // Rows 62770 and 69881 of this hand add up to the same float: the earlier
-  // one stays.
-  SessionEssai s;
-  s.Main(0, {25, 18, 9, 17, 46, 11, 27, 31, 3, 40, 24, 0, 30});
-  auto somme = [&t = s.t](int i) {
-    for (int j = 0; j < 13; ++j)
-      (j < 5    ? t.Niveau1[j]
-       : j < 10 ? t.Niveau2[j - 5]
-                : t.Niveau3[j - 10]) = t.Mains[0][t.Rangements[i][j]];
-    t.Résultat1(), t.Résultat2(), t.Résultat3();
-    return static_cast<float>((t.Valeur1 + t.Valeur2) + t.Valeur3);
-  };
-  ASSERT_EQ(somme(62770), somme(69881));
-  s.t.ChercheSiège(0);
-  EXPECT_EQ(s.t.MeilleurRangement[0], 62770);
 }
 
 // The rows kept for the benchmark's fixed deals, known by heart.
@@ -76,33 +64,31 @@ TEST(ComptePaires, SixPairesEtMégaQuinte) {
   }
 }
 
-// A DEBUTANT table of 13 ranks in every seat, interrupted at turn `tour`.
-// The row-by-row sweep stops at the same places: see the sweep comparison.
-void Interromps(SessionEssai &s, int tour, bool quitte) {
-  for (int j = 0; j < 4; ++j)
-    s.Main(j, {0, 14, 28, 42, 4, 18, 32, 46, 8, 22, 36, 50, 12});
-  std::fill(std::begin(s.t.CartesTirées), std::end(s.t.CartesTirées), 7); // Init puts 54 back
-  s.plateforme.script = [&s, tour, quitte](int n) {
-    EXPECT_TRUE(s.t.BalayageEnCours);
-    if (n == tour)
-      (quitte ? s.t.SessionTerminée : s.t.Fenêtre.Arrêt.Enabled) = quitte;
-  };
-  s.t.OrdiJoue();
-  EXPECT_EQ(s.plateforme.tours, tour);
-  EXPECT_FALSE(s.t.BalayageEnCours);
-}
-
+// A DEBUTANT table of 13 ranks in every seat, stopped at turn 2 (row 57) or
+// left at seat 1's first turn by the end of the session. After STOP the row
+// is finished and Init runs, with no pair count; after the end, seat 0 has
+// had its count and nothing more runs. The row-by-row sweep stops at the
+// same places: see the sweep comparison.
 TEST(Balayage, StopOuFinDeSessionPendantUnTour) {
-  SessionEssai stop, fin;
-  Interromps(stop, 2, false); // turn 2 is at row 57
-  // Row 57 was finished, Init ran before row 58, no pair count.
-  for (int j = 0; j < 5; ++j)
-    EXPECT_EQ(stop.t.Niveau2[j], stop.t.Mains[0][stop.t.Rangements[57][5 + j]]);
-  EXPECT_EQ(stop.t.CartesTirées[0], PasDeCarte) << "Init n'a pas tourné";
-  EXPECT_FALSE(stop.t.MégaQuinte[0]);
-  Interromps(fin, 1288, true); // seat 1's first turn
-  EXPECT_TRUE(fin.t.MégaQuinte[0] && !fin.t.MégaQuinte[1]);
-  EXPECT_EQ(fin.t.CartesTirées[0], 7) << "pas d'Init après la fin de la session";
+  for (bool quitte : {false, true}) {
+    SessionEssai s;
+    const int tour = quitte ? 1288 : 2;
+    for (int j = 0; j < 4; ++j)
+      s.Main(j, {0, 14, 28, 42, 4, 18, 32, 46, 8, 22, 36, 50, 12});
+    std::fill(std::begin(s.t.CartesTirées), std::end(s.t.CartesTirées), 7); // Init puts 54 back
+    s.plateforme.script = [&s, tour, quitte](int n) {
+      EXPECT_TRUE(s.t.BalayageEnCours);
+      if (n == tour)
+        (quitte ? s.t.SessionTerminée : s.t.Fenêtre.Arrêt.Enabled) = quitte;
+    };
+    s.t.OrdiJoue();
+    EXPECT_EQ(s.plateforme.tours, tour);
+    EXPECT_FALSE(s.t.BalayageEnCours || s.t.MégaQuinte[1]);
+    EXPECT_EQ(s.t.MégaQuinte[0], quitte);
+    EXPECT_EQ(s.t.CartesTirées[0], quitte ? 7 : PasDeCarte) << "Init after a STOP only";
+    for (int j = 0; j < 5 && !quitte; ++j)
+      EXPECT_EQ(s.t.Niveau2[j], s.t.Mains[0][s.t.Rangements[57][5 + j]]);
+  }
 }
 
 TEST(Balayage, BarreDeProgrèsDansLesDeuxModes) {

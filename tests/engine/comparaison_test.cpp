@@ -5,7 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstring>
+#include <array>
+#include <numeric>
 #include <random>
 
 #include "session_essai.h"
@@ -18,28 +19,21 @@ constexpr int Tables = 40; // the row-by-row sweep is ten times slower there
 constexpr int Tables = 400;
 #endif
 
-template <typename T> void Ajoute(std::string &photo, const T &champ) {
-  photo.append(reinterpret_cast<const char *>(&champ), sizeof champ);
+template <typename... T> std::string Octets(const T &...champs) {
+  std::string photo;
+  (photo.append(reinterpret_cast<const char *>(&champs), sizeof champs), ...);
+  return photo;
 }
 
 // Everything the sweep writes, as raw bytes.
 std::string Photo(const TroisNiveaux &t) {
-  std::string p;
-  for (const auto &champ : {t.Valeur1, t.Valeur2, t.Valeur3, t.Somme})
-    Ajoute(p, champ);
-  Ajoute(p, t.MeilleurRangement), Ajoute(p, t.MeilleureValeur), Ajoute(p, t.ToutQuinte),
-      Ajoute(p, t.ToutFlush);
-  Ajoute(p, t.SixPaires), Ajoute(p, t.MégaQuinte), Ajoute(p, t.Niveau1), Ajoute(p, t.Niveau2),
-      Ajoute(p, t.Niveau3);
-  Ajoute(p, t.NombreParRang), Ajoute(p, t.CartesTirées), Ajoute(p, t.RangHaut),
-      Ajoute(p, t.RangBas);
-  for (bool b :
-       {t.EstPaire, t.EstDeuxPaires, t.EstBrelan, t.EstFull, t.EstCarré, t.EstFlush, t.EstQuinte,
-        t.EstQF, t.ToutQuinteVu, t.ToutFlushVu, t.Fenêtre.Arrêt.Enabled, t.BalayageEnCours})
-    Ajoute(p, b);
-  Ajoute(p, t.Joueur), Ajoute(p, t.PasProgrès), Ajoute(p, t.Fenêtre.TempsShape.Left);
-  Ajoute(p, t.Fenêtre.TempsShape.BackColor);
-  return p;
+  const auto &f = t.Fenêtre;
+  return Octets(t.Valeur1, t.Valeur2, t.Valeur3, t.Somme, t.MeilleurRangement, t.MeilleureValeur,
+                t.ToutQuinte, t.ToutFlush, t.SixPaires, t.MégaQuinte, t.Niveau1, t.Niveau2,
+                t.Niveau3, t.NombreParRang, t.CartesTirées, t.RangHaut, t.RangBas, t.EstPaire,
+                t.EstDeuxPaires, t.EstBrelan, t.EstFull, t.EstCarré, t.EstFlush, t.EstQuinte,
+                t.EstQF, t.ToutQuinteVu, t.ToutFlushVu, f.Arrêt.Enabled, t.BalayageEnCours,
+                t.Joueur, t.PasProgrès, f.TempsShape.Left, f.TempsShape.BackColor);
 }
 
 // Hands of every kind the sweep has a path or a trap for.
@@ -49,8 +43,8 @@ std::vector<int> UneMain(int genre, std::mt19937 &g) {
   const int premier = entre(0, 12), a = entre(0, 3), b = (a + entre(1, 3)) % 4;
   switch (genre % 8) {
   case 0: // any 13 cards
-    for (int c = 0; c < 52; ++c)
-      p.push_back(c);
+    p.resize(52);
+    std::iota(p.begin(), p.end(), 0);
     break;
   case 1: // two suits: flushes everywhere
   case 2: // seven or eight ranks in a row in two suits: straights and flushes
@@ -85,7 +79,8 @@ std::vector<int> UneMain(int genre, std::mt19937 &g) {
 
 // The same table swept both ways from the same state, with a STOP or the
 // end of the session at turn `tour` if any.
-void Compare(uint8_t mode, const std::vector<int> (&mains)[4], int tour = 0, bool quitte = false) {
+void Compare(uint8_t mode, const std::array<std::vector<int>, 4> &mains, int tour = 0,
+             bool quitte = false) {
   SessionEssai rapide(mode), littéral(mode);
   for (SessionEssai *s : {&rapide, &littéral}) {
     for (int j = 0; j < 4; ++j)
@@ -112,32 +107,29 @@ void Compare(uint8_t mode, const std::vector<int> (&mains)[4], int tour = 0, boo
               r.MégaQuinte[3] == s.MégaQuinte[3]);
 }
 
-TEST(RapideContreLittéral, DesMilliersDeMains) {
+TEST(RapideContreLittéral, DesMilliersDeMainsEtDesInterruptions) {
   std::mt19937 g(20261122);
-  for (int n = 0; n < Tables; ++n) {
-    std::vector<int> mains[4];
+  const auto Table = [&g](int genre) { // four hands of the kinds from `genre` on
+    std::array<std::vector<int>, 4> mains;
     for (int j = 0; j < 4; ++j)
-      mains[j] = UneMain(4 * n + j, g);
+      mains[j] = UneMain(genre + j, g);
+    return mains;
+  };
+  for (int n = 0; n < Tables; ++n) {
     SCOPED_TRACE(n);
-    Compare(n % 4 != 0, mains); // one table in four in EXPERT
+    Compare(n % 4 != 0, Table(4 * n)); // one table in four in EXPERT
     if (HasFatalFailure())
       return;
   }
-}
-
-TEST(RapideContreLittéral, InterrompuÀUnTourQuelconque) {
-  std::mt19937 g(7);
-  // The first and last turns of the seats, and turns at random.
+  // Interrupted at the first and last turns of the seats and at turns at
+  // random, on the hands with the most special rows.
   std::vector<int> tours = {1, 2, 1287, 1288, 1289, 2575, 3862, 5148};
   for (int k = 0; k < 8; ++k)
     tours.push_back(std::uniform_int_distribution<int>(1, 5148)(g));
   for (int tour : tours)
     for (bool quitte : {false, true}) {
-      std::vector<int> mains[4];
-      for (int j = 0; j < 4; ++j)
-        mains[j] = UneMain(1 + j, g); // the hands with the most special rows
       SCOPED_TRACE(tour);
-      Compare(1, mains, tour, quitte);
+      Compare(1, Table(1), tour, quitte);
       if (HasFatalFailure())
         return;
     }

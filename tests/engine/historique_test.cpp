@@ -4,45 +4,14 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <sstream>
 
+#include "analyse/commande_historique.h"
 #include "files/historique.h"
 #include "partie_essai.h"
 
-namespace {
-
-historique::Entrée Donne(const std::string &date, uint8_t mode, std::array<int32_t, 4> totaux,
-                         std::array<int32_t, 4> scores) {
-  historique::Entrée e;
-  e.date = date;
-  e.mode = mode;
-  std::copy(totaux.begin(), totaux.end(), e.totaux);
-  std::copy(scores.begin(), scores.end(), e.scores);
-  return e;
-}
-
-historique::Entrée Remise(const std::string &date) {
-  historique::Entrée e;
-  e.date = date;
-  e.remise = true;
-  return e;
-}
-
-} // namespace
-
-TEST(Historique, LesLignesFontLAllerRetour) {
-  const historique::Entrée entrées[] = {
-      Donne("2026-11-23 21:04:05", 0, {-5, 21, -7, -9}, {-5, 21, -7, -9}),
-      Donne("2026-01-01 00:00:00", 1, {18, -6, -6, -6}, {2147483647, -2147483647 - 1, 0, 12}),
-      Remise("2026-12-31 23:59:59")};
-  for (const auto &e : entrées) {
-    const std::string ligne = historique::Ligne(e);
-    ASSERT_TRUE(ligne.ends_with("\r\n")) << ligne;
-    EXPECT_EQ(historique::LitLigne(ligne), e) << ligne;
-  }
-  EXPECT_EQ(historique::Ligne(entrées[0]),
-            "2026-11-23 21:04:05;EXPERT;-5;21;-7;-9;-5;21;-7;-9\r\n");
-  EXPECT_EQ(historique::Ligne(entrées[2]), "2026-12-31 23:59:59;SCORES A 0\r\n");
-}
+using historique::Entrée;
+const Entrée Remise{.date = "2026-11-24 08:00:00", .remise = true};
 
 TEST(Historique, UnFichierAbîméSeLitSansLesLignesFautives) {
   DossierEssai d;
@@ -68,12 +37,8 @@ TEST(Historique, UnFichierAbîméSeLitSansLesLignesFautives) {
   EXPECT_EQ(lecture.entrées.size(), 2u);
   EXPECT_EQ(lecture.lignesIgnorées, 11);
 
-  EXPECT_FALSE(historique::Lit(d.Chemin() + "/Absent").trouvé);
-  std::filesystem::create_directory(d.Chemin() + "/Dossier");
-  EXPECT_FALSE(historique::Lit(d.Chemin() + "/Dossier").trouvé);
-
   // The next write keeps the good lines and drops the rest.
-  ASSERT_TRUE(historique::Ajoute(Remise("2026-11-24 08:00:00"), d.Chemin() + "/Historique"));
+  ASSERT_TRUE(historique::Ajoute(Remise, d.Chemin() + "/Historique"));
   EXPECT_EQ(d.Lit("Historique"), bonne + bonne + "2026-11-24 08:00:00;SCORES A 0\r\n");
 }
 
@@ -82,10 +47,10 @@ TEST(Historique, LeFichierGardeSesDernièresLignes) {
   const std::string nom = d.Chemin() + "/Historique";
   std::string octets;
   for (std::size_t n = 0; n < historique::LignesGardées; ++n)
-    octets += historique::Ligne(
-        Donne("2026-11-23 21:04:05", 1, {int32_t(n), 0, 0, -int32_t(n)}, {0, 0, 0, 0}));
+    octets +=
+        historique::Ligne(Entrée{"2026-11-23 21:04:05", false, 1, {int32_t(n), 0, 0, -int32_t(n)}});
   d.Écrit("Historique", octets);
-  ASSERT_TRUE(historique::Ajoute(Remise("2026-11-24 08:00:00"), nom));
+  ASSERT_TRUE(historique::Ajoute(Remise, nom));
   const auto lecture = historique::Lit(nom);
   ASSERT_EQ(lecture.entrées.size(), historique::LignesGardées);
   EXPECT_EQ(lecture.entrées.front().totaux[0], 1) << "the oldest line went";
@@ -93,33 +58,47 @@ TEST(Historique, LeFichierGardeSesDernièresLignes) {
 
   // A crash in the rename leaves the old file whole and a leftover that the
   // next start clears.
-  ASSERT_TRUE(TuéAuRenommage([&] { historique::Ajoute(Remise("2026-11-25 08:00:00"), nom); }));
+  ASSERT_TRUE(TuéAuRenommage([&] { historique::Ajoute(Remise, nom); }));
   EXPECT_EQ(historique::Lit(nom).entrées.size(), historique::LignesGardées);
-  const auto Restes = [&] {
-    return std::distance(std::filesystem::directory_iterator(d.Chemin()), {});
-  };
-  EXPECT_EQ(Restes(), 4) << "Noms, Scores, Historique and the leftover";
-  bool copie = false;
+  std::vector<std::string> restes;
   for (const auto &f : std::filesystem::directory_iterator(d.Chemin()))
-    copie = copie || GardéCommeCopie(f.path().filename().string());
+    if (f.path().filename().string().starts_with("Historique."))
+      restes.push_back(f.path().filename().string());
+  ASSERT_EQ(restes.size(), 1u);
   PlateformeSansFenêtre p(d.Chemin());
   TroisNiveaux t(p);
   t.Form_Load();
-  EXPECT_EQ(Restes(), copie ? 4 : 3);
+  EXPECT_EQ(d.Existe(restes[0]), GardéCommeCopie(restes[0])) << restes[0];
 }
 
-TEST(Historique, LesChiffresDeChaqueSiège) {
-  const std::vector<historique::Entrée> entrées = {
-      Donne("2026-11-23 21:00:00", 1, {-5, 21, -7, -9}, {-5, 21, -7, -9}),
-      Donne("2026-11-23 21:05:00", 0, {18, -6, -6, -6}, {13, 15, -13, -15}),
-      Remise("2026-11-23 21:06:00"),
-      Donne("2026-11-23 21:09:00", 1, {2, 0, 1, -3}, {2, 0, 1, -3}),
+// The figures of each seat, as the analysis command gives them.
+TEST(Historique, LesChiffresDeChaqueSiègeEtLaCommandeQuiLesDonne) {
+  const std::vector<Entrée> entrées = {
+      {"2026-11-23 21:00:00", false, 1, {-5, 21, -7, -9}, {-5, 21, -7, -9}},
+      {"2026-11-23 21:05:00", false, 0, {18, -6, -6, -6}, {13, 15, -13, -15}},
+      Remise,
+      {"2026-11-23 21:09:00", false, 1, {2, 0, 1, -3}, {2, 0, 1, -3}},
   };
-  const historique::Figures f = historique::Calcule(entrées);
-  EXPECT_TRUE(f.donnes == 3 && f.remises == 1 && f.sièges[0].donnes == 3);
-  EXPECT_DOUBLE_EQ(f.sièges[0].moyenne, 15.0 / 3);
-  EXPECT_TRUE(f.sièges[0].meilleure == 18 && f.sièges[0].pire == -5 && f.sièges[1].pire == -6);
-  EXPECT_EQ(f.sièges[3].score, -3);
-  EXPECT_EQ(historique::Calcule({entrées[0], entrées[2]}).sièges[1].score, 0)
+  DossierEssai d;
+  for (const Entrée &e : entrées)
+    ASSERT_TRUE(historique::Ajoute(e, d.Chemin() + "/Historique"));
+  std::filesystem::current_path(d.Chemin());
+  const auto Résumé = [](const std::vector<std::string> &arguments) {
+    std::ostringstream sortie, erreurs;
+    const int statut = CommandeHistorique(arguments, sortie, erreurs);
+    return std::to_string(statut) + " " + sortie.str();
+  };
+  EXPECT_EQ(Résumé({"--json"}),
+            "0 {\"donnes\": 3, \"remises\": 1, \"lignesIgnorées\": 0, \"sièges\": [{\"nom\": "
+            "\"MicroProc\", \"donnes\": 3, \"moyenne\": 5.00, \"meilleure\": 18, \"pire\": -5, "
+            "\"score\": 2}, {\"nom\": \"GigaOctets\", \"donnes\": 3, \"moyenne\": 5.00, "
+            "\"meilleure\": 21, \"pire\": -6, \"score\": 0}, {\"nom\": \"MégaBytes\", \"donnes\": "
+            "3, \"moyenne\": -4.00, \"meilleure\": 1, \"pire\": -7, \"score\": 1}, {\"nom\": "
+            "\"Bibi\", \"donnes\": 3, \"moyenne\": -6.00, \"meilleure\": -3, \"pire\": -9, "
+            "\"score\": -3}]}\n");
+  EXPECT_TRUE(Résumé({}).starts_with("0 Historique : 3 donnes, 1 remise à zéro\n")) << Résumé({});
+  EXPECT_EQ(Résumé({"Absent"}), "1 ");
+  EXPECT_EQ(Résumé({"--moyenne"}), "2 ");
+  EXPECT_EQ(historique::Calcule({entrées[0], Remise}).sièges[1].score, 0)
       << "a reset last leaves the scores at 0";
 }

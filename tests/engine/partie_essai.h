@@ -24,6 +24,12 @@ inline const std::vector<std::vector<int>> DonneDeRéférence = {
 inline const std::vector<int> DispositionDeRéférence = {18, 44, 31, 15, 28, 30, 51,
                                                         40, 12, 42, 21, 7,  11};
 
+// A data file as the game ships it.
+inline std::string Livré(const std::string &nom) {
+  std::ifstream fichier(std::string(TN_DOSSIER_DONNEES) + "/" + nom, std::ios::binary);
+  return {std::istreambuf_iterator<char>(fichier), {}};
+}
+
 // The bytes of a Tirage file holding these hands.
 inline std::string TexteDeTirage(const std::vector<std::vector<int>> &mains) {
   std::string octets;
@@ -38,18 +44,15 @@ struct Partie {
   PlateformeSansFenêtre plateforme{dossier.Chemin()};
   TroisNiveaux t{plateforme};
 
-  explicit Partie(uint8_t mode = 1, const std::string &scores = {}) {
+  explicit Partie(uint8_t mode = 1, const std::string &scores = {}, const std::string &noms = {}) {
     if (!scores.empty())
       dossier.Écrit("Scores", scores);
+    if (!noms.empty())
+      dossier.Écrit("Noms", noms);
     t.Form_Load();
     EXPECT_FALSE(t.DémarrageRefusé) << t.ErreurDémarrage;
     if (mode != t.Mode)
       t.Mode_MouseUp();
-  }
-
-  // The cards that REJOUE deals, seat by seat.
-  void Tirage(const std::vector<std::vector<int>> &mains) const {
-    dossier.Écrit("Tirage", TexteDeTirage(mains));
   }
 
   // Lays the human's cards out in this order by clicks, as a player would.
@@ -71,7 +74,4 @@ struct Partie {
     return textes;
   }
   std::string Paiements() const { return Textes(t.Fenêtre.LabelPaie); }
-  int SommeDesTotaux() const {
-    return t.TotauxDonne[0] + t.TotauxDonne[1] + t.TotauxDonne[2] + t.TotauxDonne[3];
-  }
 };

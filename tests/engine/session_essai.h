@@ -47,16 +47,10 @@ struct SessionEssai {
     }
     const int16_t bases[8] = {100, 200, 350, 380, 500, 600, 1000, 1500};
     std::copy(bases, bases + 8, t.BaseMain);
-    Mode(mode);
-  }
-
-  // The bar as the mode button sizes it and Init places it.
-  void Mode(uint8_t mode) {
-    t.Mode = mode;
+    // The bar as the mode button sizes it and Init places it.
+    t.Mode = mode ? 0 : 1;
+    t.Mode_MouseUp();
     t.Fenêtre.Arrêt.Enabled = true;
-    t.Fenêtre.TempsFondSS.Width = mode ? 3900 : 3000;
-    t.Fenêtre.TempsShape.Width = t.Fenêtre.TempsFondSS.Width + 15;
-    t.Fenêtre.TempsShape.Left = -(t.Fenêtre.TempsShape.Width - 15);
     t.Fenêtre.TempsShape.BackColor = CouleurSiège[0];
   }
 
