@@ -11,6 +11,7 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include "partie_essai.h"
@@ -197,6 +198,44 @@ TEST(Fichiers, UneÉcritureImpossibleGardeLAncienFichierEtPrévientUneFois) {
   EXPECT_NE(erreurs[2].find("« Temps2 »"), std::string::npos);
   EXPECT_NE(erreurs[2].find("un dossier porte ce nom"), std::string::npos);
   EXPECT_NE(erreurs[3].find("« Scores »"), std::string::npos);
+}
+
+// A folder that takes no new file, while its files stay writable: the file
+// is written in place rather than not at all, and only a new file fails.
+TEST(FichiersLimites, UnDossierSansNouveauFichierSÉcritEnPlace) {
+  Partie p;
+  const fs::path dossier = p.dossier.Chemin();
+  // Root ignores the folder's permissions: the session runs in a child that
+  // drops root for nobody, the owner of the folder and of its files.
+  for (const char *nom : {"", "Noms", "Scores"})
+    if (geteuid() == 0 && chown((dossier / nom).c_str(), 65534, 65534) != 0)
+      GTEST_SKIP() << "cannot hand the folder to another user";
+  fs::permissions(dossier, fs::perms(0555));
+  const pid_t enfant = fork();
+  if (enfant == 0) {
+    if (geteuid() == 0 &&
+        (setresgid(65534, 65534, 65534) != 0 || setresuid(65534, 65534, 65534) != 0))
+      _exit(2);
+    PlateformeSansFenêtre plateforme(dossier.string());
+    TroisNiveaux t(plateforme);
+    t.Form_Load();
+    t.Scores[2] = -3;
+    t.ÉcritScores();
+    t.ÉcritTirage();
+    const auto &e = plateforme.erreurs;
+    _exit(e.size() == 1 && e[0].find("« Tirage »") != std::string::npos &&
+                  e[0].find("le dossier est protégé en écriture") != std::string::npos
+              ? 0
+              : 1);
+  }
+  int statut = 0;
+  waitpid(enfant, &statut, 0);
+  fs::permissions(dossier, fs::perms::owner_all);
+  if (enfant < 0 || !WIFEXITED(statut) || WEXITSTATUS(statut) == 2)
+    GTEST_SKIP() << "no ordinary user to run as";
+  EXPECT_EQ(WEXITSTATUS(statut), 0) << "one message, for the new file only";
+  EXPECT_EQ(p.dossier.Lit("Scores"), "0\r\n0\r\n-3\r\n0\r\n");
+  EXPECT_EQ(std::distance(fs::directory_iterator(dossier), {}), 2) << "no temporary file";
 }
 
 TEST(FichiersLimites, LesRestesDÉcrituresInterrompuesSontEffacésEtRienDAutre) {
